@@ -1,0 +1,24 @@
+# What all targets of the project have in common.
+
+# Everything a target of this project is compiled with: the language, the warnings, and the Qt
+# shortcuts that our own code does not use.
+function(arvxml_configure_target target)
+    target_compile_features(${target} PRIVATE cxx_std_17)
+    set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF)
+    target_compile_definitions(${target} PRIVATE
+        QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY
+        QT_NO_URL_CAST_FROM_STRING QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
+    if(MSVC)
+        target_compile_options(${target} PRIVATE /W4)
+    else()
+        target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+    endif()
+    if(ARVXML_WARNINGS_AS_ERRORS)
+        target_compile_options(${target} PRIVATE $<IF:$<CXX_COMPILER_ID:MSVC>,/WX,-Werror>)
+    endif()
+    if(ARVXML_SANITIZERS)
+        target_compile_options(${target} PRIVATE -fsanitize=${ARVXML_SANITIZERS} -fno-sanitize-recover=all
+                                                 -fno-omit-frame-pointer)
+        target_link_options(${target} PRIVATE -fsanitize=${ARVXML_SANITIZERS})
+    endif()
+endfunction()

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "arvxml/command.h"
+
+namespace ArvXml {
+
+/// A command that asks the service about itself:
+/// `<Administrative><QueryVersion/><Reference>42</Reference></Administrative>`.
+///
+/// The only one is the version query. The kind is set by reading alone; a new command has none
+/// ("Invalid Administrative command type"). Query and reference may come in either order; the
+/// reference may be missing or repeated on reading, and the last one counts.
+class ARVXML_EXPORT XmlCmdAdmin : public XmlCommand {
+public:
+    enum AdminCmd : int {
+        AdminUndefined = 0,
+        AdminQueryVersion = 1,
+    };
+
+    XmlCmdAdmin();
+    AdminCmd adminCmd() const { return m_command; }
+
+    bool isValid() const override;
+    QString syntaxError() override;
+    void reset() override;
+
+protected:
+    const ElementForm& form() const override;
+
+private:
+    void writeQuery(QXmlStreamWriter& writer, const QString& tag) const;
+    void setQueryVersion() { m_command = AdminQueryVersion; }
+
+    AdminCmd m_command = AdminUndefined;
+};
+
+} // namespace ArvXml

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "arvxml/command.h"
+#include "arvxml/coverageorders.h"
+#include "arvxml/siteorders.h"
+
+namespace ArvXml {
+
+/// The command to calculate: `<Calculate><CEP>...</CEP><Reference>42</Reference></Calculate>`, exactly
+/// one order ("Too many or too few elements."), then the reference.
+///
+/// Setters fill the order of their kind and leave the others; an order read replaces the one of its
+/// kind. Reading does not reset the command first.
+class ARVXML_EXPORT XmlCmdCalc : public XmlCommand {
+public:
+    XmlCmdCalc();
+
+    /// The order of possible sites, tag "FindPossibleSites"; null when absent.
+    const XmlFindSitesType* findSites() const { return m_findSites.get(); }
+    bool hasFindSites() const { return m_findSites.isPresent(); }
+    void setFindSites(const XmlFindSitesType& order) { m_findSites.set(order); }
+
+    /// The order of the circular error probable, tag "CEP"; null when absent.
+    const XmlCepType* cep() const { return m_cep.get(); }
+    bool hasCep() const { return m_cep.isPresent(); }
+    void setCep(const XmlCepType& order) { m_cep.set(order); }
+
+    /// The order of the detection probability, tag "DetectionProbability"; null when absent.
+    const XmlDetectProbType* detectProb() const { return m_detectProb.get(); }
+    bool hasDetectProb() const { return m_detectProb.isPresent(); }
+    void setDetectProb(const XmlDetectProbType& order) { m_detectProb.set(order); }
+
+    /// The order of the direction-finding coverage, tag "DFcoverage"; null when absent.
+    const XmlDfCovType* dfCov() const { return m_dfCov.get(); }
+    bool hasDfCov() const { return m_dfCov.isPresent(); }
+    void setDfCov(const XmlDfCovType& order) { m_dfCov.set(order); }
+
+    /// The order of interlink planning, tag "InterlinkPlanning"; null when absent.
+    const XmlInterlinkPlanningType* interlink() const { return m_interlink.get(); }
+    bool hasInterlink() const { return m_interlink.isPresent(); }
+    void setInterlink(const XmlInterlinkPlanningType& order) { m_interlink.set(order); }
+
+    /// The order of the best sensor coverage, tag "BestSensorCov"; null when absent. reset() leaves it
+    /// in place.
+    const XmlBestSensorType* bestSensor() const { return m_bestSensor.get(); }
+    bool hasBestSensor() const { return m_bestSensor.isPresent(); }
+    void setBestSensor(const XmlBestSensorType& order) { m_bestSensor.set(order); }
+
+    bool isValid() const override;
+    QString syntaxError() override;
+
+protected:
+    const ElementForm& form() const override;
+
+private:
+    bool hasExactlyOneOrder() const;
+
+    OptionalChild<XmlFindSitesType> m_findSites;
+    OptionalChild<XmlCepType> m_cep;
+    OptionalChild<XmlDetectProbType> m_detectProb;
+    OptionalChild<XmlDfCovType> m_dfCov;
+    OptionalChild<XmlInterlinkPlanningType> m_interlink;
+    OptionalChild<XmlBestSensorType> m_bestSensor;
+};
+
+} // namespace ArvXml

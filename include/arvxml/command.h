@@ -1,0 +1,34 @@
+#pragma once
+
+#include "arvxml/element.h"
+#include "arvxml/names.h"
+#include "arvxml/orderdef.h"
+
+namespace ArvXml {
+
+/// The base of the commands of a command document: a reference, by which a response points back to
+/// the command, and a copy of the document's order envelope.
+///
+/// The envelope is never read or written by a command: the document root reads it and hands each
+/// command a copy.
+class ARVXML_EXPORT XmlCommand : public XmlComposite {
+public:
+    const XmlReferenceType& cmdReference() const { return m_reference; }
+    void setCmdReference(const XmlReferenceType& reference) { m_reference = reference; }
+
+    bool hasOrderDef() const { return m_orderDef.isPresent(); }
+    /// The envelope, null when absent.
+    const XmlOrderDef* orderDef() const { return m_orderDef.get(); }
+    void setOrderDef(const XmlOrderDef& orderDef) { m_orderDef.set(orderDef); }
+
+    /// Resets the reference and what the command holds, and removes the envelope.
+    void reset() override;
+
+protected:
+    using XmlComposite::XmlComposite;
+
+    OptionalChild<XmlOrderDef> m_orderDef;
+    XmlReferenceType m_reference;
+};
+
+} // namespace ArvXml

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "arvxml/admincommand.h"
+#include "arvxml/calccommand.h"
+
+namespace ArvXml {
+
+/// The document element of a command document: an optional envelope, then the commands, each kind in
+/// a block of its own: `<Commands><ORDER_DEF>...</ORDER_DEF><Administrative>...</Administrative>
+/// <Calculate>...</Calculate></Commands>`. The caller chooses its tag.
+///
+/// A root is filled by reading or copying only: a program that writes commands writes the document
+/// element itself, with the envelope and the commands as children. Each command read gets a copy of
+/// the envelope. Reading does not reset the root: commands are appended, the envelope is replaced. An
+/// empty root is valid.
+class ARVXML_EXPORT XmlCmdRoot : public XmlComposite {
+public:
+    XmlCmdRoot();
+
+    bool hasOrderDef() const { return m_orderDef.isPresent(); }
+    /// The envelope, null when absent.
+    const XmlOrderDef* orderDef() const { return m_orderDef.get(); }
+    void setOrderDef(const XmlOrderDef& orderDef) { m_orderDef.set(orderDef); }
+
+    /// The commands of a kind in the order of the document. They belong to the root and live until it
+    /// is reset, assigned to or destroyed.
+    const QList<XmlCmdAdmin*> getAdministrativeCmds() const { return m_administrative.items(); }
+    const QList<XmlCmdCalc*> getCalculationCmds() const { return m_calculations.items(); }
+
+protected:
+    const ElementForm& form() const override;
+
+private:
+    /// Commands of one kind.
+    template <auto Member>
+    static Content commands();
+
+    OptionalChild<XmlOrderDef> m_orderDef;
+    OwnedList<XmlCmdAdmin> m_administrative;
+    OwnedList<XmlCmdCalc> m_calculations;
+};
+
+} // namespace ArvXml

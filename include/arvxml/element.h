@@ -1,0 +1,198 @@
+#pragma once
+
+#include "arvxml/export.h"
+#include "arvxml/ownership.h"
+
+#include <QtCore/QString>
+
+class QXmlStreamReader;
+class QXmlStreamWriter;
+
+/// Objects for the XML documents of the planning protocol.
+namespace ArvXml {
+
+class ElementForm;
+class ElementReader;
+struct Content;
+struct EnumerationRules;
+
+/// What every element of the protocol can do.
+///
+/// An element does not know the tag under which it stands: whoever holds it passes the tag, so one
+/// type serves under several tags. No operation throws for bad input.
+class ARVXML_EXPORT IXmlElement {
+public:
+    virtual ~IXmlElement();
+
+    /// Reads the element from \a reader, which stands on the element's start tag, up to and
+    /// including the end tag \a tagName (a local name, without a prefix).
+    ///
+    /// A failure is raised on the reader as "in CLASS (line L, column C): MESSAGE." and ends the
+    /// whole read; ask `reader.hasError()` and `reader.errorString()`. What was read until then is
+    /// kept. Values out of range are no failure here; see isValid().
+    virtual void processXml(QXmlStreamReader& reader, const QString& tagName) = 0;
+
+    /// Writes the element under the tag \a tagName. What is held is written, valid or not.
+    virtual void produceXml(QXmlStreamWriter& writer, const QString& tagName) const = 0;
+
+    /// Whether the content is acceptable to the protocol.
+    virtual bool isValid() const = 0;
+
+    /// What is wrong with the content, one line a problem, the problems of an element framed by its
+    /// class; empty when nothing is wrong. Not const, since the text is kept in the element.
+    virtual QString syntaxError() = 0;
+
+    /// Returns to the state of a new object, as far as the class says nothing else.
+    virtual void reset() = 0;
+
+protected:
+    IXmlElement() = default;
+    IXmlElement(const IXmlElement&) = default;
+    IXmlElement& operator=(const IXmlElement&) = default;
+};
+
+/// The base of every element: its class name, as messages show it, and the problems found by the
+/// last syntaxError().
+class ARVXML_EXPORT XmlElementBase : public IXmlElement {
+public:
+    explicit XmlElementBase(const QString& className);
+    XmlElementBase(const XmlElementBase& other);
+    ~XmlElementBase() override;
+    XmlElementBase& operator=(const XmlElementBase& other);
+
+    /// Forgets the problems found by the last syntaxError().
+    void reset() override;
+
+protected:
+    /// The class name that messages show. It is not the name of the C++ class everywhere.
+    const QString& classname() const { return m_className; }
+
+    /// Raises "in CLASS (line L, column C): MESSAGE." on \a reader, in place of any earlier error.
+    void setReaderError(QXmlStreamReader& reader, const QString& message);
+
+    /// Adds a problem on a line of its own; an empty text adds nothing.
+    void addSyntaxError(const QString& text);
+    void clearSyntaxError();
+    /// The problems collected, framed by the class name; empty when there are none.
+    QString mySyntaxError();
+
+private:
+    friend class ElementReader;
+
+    QString m_className;
+    QString m_syntaxError;
+};
+
+/// The version of a versioned element: attribute "version", by default and only supported "1.0".
+///
+/// Some elements refuse another version while reading ("Version not supported: 2.0"); in the others
+/// it is read and reported by isValid() and syntaxError() (`Version "2.0" not supported`).
+class ARVXML_EXPORT XmlVersioned {
+public:
+    QString version() const { return m_version; }
+    /// Stores \a version without checking it.
+    void setVersion(const QString& version) { m_version = version; }
+
+protected:
+    XmlVersioned();
+    XmlVersioned(const XmlVersioned&) = default;
+    XmlVersioned(XmlVersioned&&) = default;
+    ~XmlVersioned() = default;
+    XmlVersioned& operator=(const XmlVersioned&) = default;
+    XmlVersioned& operator=(XmlVersioned&&) = default;
+
+    /// Whether the version is exactly "1.0".
+    bool supportsVersion() const;
+    /// Makes the version "1.0" again.
+    void restoreVersion();
+    /// Restores the version, then takes that of the start tag if it has one.
+    void readVersion(ElementReader& in);
+    /// Raises an error on the reader if the version is not supported.
+    void refuseOtherVersions(ElementReader& in) const;
+    void writeVersion(QXmlStreamWriter& writer) const;
+    /// The problem with the version, or nothing.
+    QString versionError() const;
+
+private:
+    QString m_version;
+};
+
+/// The base of the elements whose content is child elements. What such an element looks like on the
+/// wire is told once, by its form: the tags in the order of writing, what holds them, and what may
+/// follow what. The operations here carry a form out; a class overrides those in which it departs.
+class ARVXML_EXPORT XmlComposite : public XmlElementBase {
+public:
+    void processXml(QXmlStreamReader& reader, const QString& tagName) override;
+    void produceXml(QXmlStreamWriter& writer, const QString& tagName) const override;
+    bool isValid() const override;
+    QString syntaxError() override;
+    void reset() override;
+
+protected:
+    using XmlElementBase::XmlElementBase;
+
+    /// The element's wire form.
+    virtual const ElementForm& form() const = 0;
+    /// What happens before the children are read (position, attributes). Returns the marks that the
+    /// children's gates find set.
+    virtual quint32 openElement(ElementReader& in);
+    /// Whether the end tag may come once the children marked in \a read have been read.
+    virtual bool isComplete(quint32 read) const;
+    virtual void writeAttributes(QXmlStreamWriter& writer) const;
+
+    /// Writes the children in the order of the form.
+    void writeChildren(QXmlStreamWriter& writer) const;
+    /// Adds the problems of the children in the order of the form.
+    void addChildrenErrors();
+};
+
+/// A composite with a version.
+class ARVXML_EXPORT XmlVersionedComposite : public XmlComposite, public XmlVersioned {
+public:
+    bool isValid() const override;
+    QString syntaxError() override;
+    void reset() override;
+
+protected:
+    using XmlComposite::XmlComposite;
+
+    quint32 openElement(ElementReader& in) override;
+    void writeAttributes(QXmlStreamWriter& writer) const override;
+};
+
+/// The base of the lists: at least one item, all under one tag. Reading deletes the items held first.
+/// Another version than "1.0" is read, and reported when the list is judged.
+class ARVXML_EXPORT XmlList : public XmlVersionedComposite {
+public:
+    bool isValid() const override;
+    QString syntaxError() override;
+
+protected:
+    using XmlVersionedComposite::XmlVersionedComposite;
+
+    quint32 openElement(ElementReader& in) override;
+
+private:
+    bool isEmpty() const;
+};
+
+/// The base of the elements whose content is one text out of a list. Value 0 means that none is
+/// chosen; it is never read, makes the element invalid, and is written as "UNDEFINED", as is every
+/// value outside the list. Texts are compared exactly: case and blanks count.
+class ARVXML_EXPORT XmlEnumeration : public XmlElementBase {
+public:
+    void processXml(QXmlStreamReader& reader, const QString& tagName) override;
+    void produceXml(QXmlStreamWriter& writer, const QString& tagName) const override;
+    bool isValid() const override;
+    QString syntaxError() override;
+    void reset() override;
+
+protected:
+    using XmlElementBase::XmlElementBase;
+
+    virtual const EnumerationRules& rules() const = 0;
+
+    int m_value = 0;
+};
+
+} // namespace ArvXml

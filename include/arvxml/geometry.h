@@ -1,0 +1,111 @@
+#pragma once
+
+#include "arvxml/element.h"
+
+#include <QtCore/QVector>
+
+namespace ArvXml {
+
+/// A position in degrees, east and north positive:
+/// `<Position version="1.0"><Longitude>8.500000</Longitude><Latitude>47.400000</Latitude></Position>`.
+///
+/// Both are required, in this order, and -999.999 (invalid) by default. Valid from -180.0 to 180.0
+/// ("Longitude out of bounds") and -90.0 to 90.0 ("Latitude out of bounds"). A text that is no number
+/// reads as 0.0 without an error. Another version than "1.0" is refused while reading.
+class ARVXML_EXPORT XmlCoordinateType : public XmlVersionedComposite {
+public:
+    XmlCoordinateType();
+    double longitude() const { return m_longitude; }
+    void setLongitude(double longitude) { m_longitude = longitude; }
+    double latitude() const { return m_latitude; }
+    void setLatitude(double latitude) { m_latitude = latitude; }
+
+    bool isValid() const override;
+    QString syntaxError() override;
+    void reset() override;
+
+protected:
+    const ElementForm& form() const override;
+    /// Adds the problems of the version and the position.
+    void addCoordinateErrors();
+
+private:
+    double m_longitude;
+    double m_latitude;
+};
+
+/// A numbered vertex of a polygon: `<Vertex version="1.0" number="0"><Longitude>...</Longitude>
+/// <Latitude>...</Latitude></Vertex>`.
+///
+/// The attribute "number" is required ("Missing attribute: "number"", "Illegal attribute value (must
+/// be numeric)"); -9999 by default, valid from 0 on ("(XmlNumCoordType) Number attribute too small
+/// (min. 0)"). Messages call the class "XmlCoordinateType".
+class ARVXML_EXPORT XmlNumCoordType : public XmlCoordinateType {
+public:
+    XmlNumCoordType();
+    int number() const { return m_number; }
+    void setNumber(int number) { m_number = number; }
+
+    bool isValid() const override;
+    QString syntaxError() override;
+    void reset() override;
+
+protected:
+    quint32 openElement(ElementReader& in) override;
+    void writeAttributes(QXmlStreamWriter& writer) const override;
+
+private:
+    int m_number;
+};
+
+/// A rectangle given by two corners: `<AreaRect version="1.0"><UpperLeft version="1.0">...
+/// </UpperLeft><LowerRight version="1.0">...</LowerRight></AreaRect>`, both required, in this order.
+///
+/// How the corners lie to each other is not checked. Another version than "1.0" is refused while
+/// reading.
+class ARVXML_EXPORT XmlAreaRectType : public XmlVersionedComposite {
+public:
+    XmlAreaRectType();
+    const XmlCoordinateType* upperLeft() const { return &m_upperLeft; }
+    void setUpperLeft(const XmlCoordinateType& corner) { m_upperLeft = corner; }
+    const XmlCoordinateType* lowerRight() const { return &m_lowerRight; }
+    void setLowerRight(const XmlCoordinateType& corner) { m_lowerRight = corner; }
+
+protected:
+    const ElementForm& form() const override;
+
+private:
+    XmlCoordinateType m_upperLeft;
+    XmlCoordinateType m_lowerRight;
+};
+
+/// A polygon of numbered vertices, held and written in ascending order of their numbers:
+/// `<AreaPolygon version="1.0"><Vertex version="1.0" number="0">...</Vertex>...</AreaPolygon>`.
+///
+/// Reading requires three vertices in any order; vertices held before are kept. Judging requires
+/// none, but numbers that ascend without repetition from 0 or more ("Illegal numbering."). Another
+/// version than "1.0" is refused while reading.
+class ARVXML_EXPORT XmlAreaPolyType : public XmlVersionedComposite {
+public:
+    XmlAreaPolyType();
+    /// The vertices in order; they belong to the polygon.
+    QVector<XmlNumCoordType*> vertices() const { return m_vertices.items(); }
+    /// Replaces the vertices by copies of the given ones, each put in its place by its number;
+    /// vertices of the same number keep their order.
+    void setVertices(const QVector<XmlNumCoordType*>& vertices);
+
+    void processXml(QXmlStreamReader& reader, const QString& tagName) override;
+    bool isValid() const override;
+    QString syntaxError() override;
+
+protected:
+    const ElementForm& form() const override;
+    bool isComplete(quint32 read) const override;
+
+private:
+    void sortIn(int firstNew);
+
+    OwnedList<XmlNumCoordType, QVector<XmlNumCoordType*>> m_vertices;
+};
+
+} // namespace ArvXml

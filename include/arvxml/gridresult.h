@@ -1,0 +1,126 @@
+#pragma once
+
+#include "arvxml/coverageorders.h"
+#include "arvxml/element.h"
+#include "arvxml/siteorders.h"
+
+namespace ArvXml {
+
+/// The result of a calculation over an area: `<GridResult type="CEP"><CEP><Parameter>...</Parameter>
+/// <ScreenshotFilename>cep.png</ScreenshotFilename></CEP></GridResult>`. The parameters repeat the
+/// order; the picture is a file of the service's, of which only the name is carried.
+///
+/// Reading always stops inside "Parameter": the parameters are read, but are told the tag of the
+/// wrapper ("CEP") as theirs, and so refuse the end tag of "Parameter" ("Unexpected token
+/// "EndElement": Parameter", in the class of the parameters). The type and the parameters read are
+/// kept; the file name is not reached.
+///
+/// Valid with a type ("Type not defined"), the parameters of that type and no others, and a file name
+/// ("Screenshot path not set").
+class ARVXML_EXPORT XmlGridResultType : public XmlComposite {
+public:
+    /// Texts "FindSites", "CEP", "DetectProb", "DfCoverage", "BestSensorCov".
+    enum ResultType : int {
+        ResultUndefined = 0,
+        ResultFindSites = 1,
+        ResultCep = 2,
+        ResultDetectProb = 3,
+        ResultDfCoverage = 4,
+        ResultBestSensorCov = 5,
+    };
+
+    XmlGridResultType();
+    /// Attribute "type"; an unknown text is the reader error "Illegal attribute value in "type"".
+    ResultType type() const { return m_type; }
+    void setType(ResultType type) { m_type = type; }
+
+    /// Parameters in the wrapper "FindPossibleSites"; null when absent.
+    const XmlFindSitesType* findSites() const { return m_findSites.get(); }
+    bool hasFindSites() const { return m_findSites.isPresent(); }
+    void setFindSites(const XmlFindSitesType& parameters) { m_findSites.set(parameters); }
+
+    /// Parameters in the wrapper "CEP"; null when absent.
+    const XmlCepType* cep() const { return m_cep.get(); }
+    bool hasCep() const { return m_cep.isPresent(); }
+    void setCep(const XmlCepType& parameters) { m_cep.set(parameters); }
+
+    /// Parameters in the wrapper "DetectionProbability"; null when absent.
+    const XmlDetectProbType* detectProb() const { return m_detectProb.get(); }
+    bool hasDetectProb() const { return m_detectProb.isPresent(); }
+    void setDetectProb(const XmlDetectProbType& parameters) { m_detectProb.set(parameters); }
+
+    /// Parameters in the wrapper "DFcoverage"; null when absent.
+    const XmlDfCovType* dfCov() const { return m_dfCov.get(); }
+    bool hasDfCov() const { return m_dfCov.isPresent(); }
+    void setDfCov(const XmlDfCovType& parameters) { m_dfCov.set(parameters); }
+
+    /// Parameters in the wrapper "BestSensorCov"; null when absent.
+    const XmlBestSensorType* bestSensor() const { return m_bestSensor.get(); }
+    bool hasBestSensor() const { return m_bestSensor.isPresent(); }
+    void setBestSensor(const XmlBestSensorType& parameters) { m_bestSensor.set(parameters); }
+
+    /// The name of the picture's file; it is written into every wrapper.
+    const QString& screenshotFilename() const { return m_screenshotFilename; }
+    void setScreenshotFilename(const QString& filename) { m_screenshotFilename = filename; }
+
+    bool isValid() const override;
+    QString syntaxError() override;
+    void reset() override;
+
+protected:
+    const ElementForm& form() const override;
+    quint32 openElement(ElementReader& in) override;
+    void writeAttributes(QXmlStreamWriter& writer) const override;
+
+private:
+    void readParameter(QXmlStreamReader& reader);
+    bool hasParametersOfType() const;
+
+    ResultType m_type = ResultUndefined;
+    OptionalChild<XmlFindSitesType> m_findSites;
+    OptionalChild<XmlCepType> m_cep;
+    OptionalChild<XmlDetectProbType> m_detectProb;
+    OptionalChild<XmlDfCovType> m_dfCov;
+    OptionalChild<XmlBestSensorType> m_bestSensor;
+    QString m_screenshotFilename;
+};
+
+/// The range of the values of a result grid:
+/// `<Values version="1.0" unit="dB"><Min>-12.5</Min><Max>40</Max></Values>`, both numbers required, in
+/// this order, written with six significant digits.
+///
+/// White space between the tags is refused on reading ("Unexpected characters"): an indented document
+/// cannot be read here. Version and unit must not be empty ("Missing mandatory attributes"); an
+/// attribute that is absent leaves what the element holds. Another version than "1.0" is refused while
+/// reading. reset() touches the two numbers only.
+class ARVXML_EXPORT XmlGridValuesType : public XmlVersionedComposite {
+public:
+    XmlGridValuesType();
+    /// The unit of the values, a free text.
+    const QString& unit() const { return m_unit; }
+    void setUnit(const QString& unit) { m_unit = unit; }
+    double min() const { return m_min; }
+    void setMin(double min) { m_min = min; }
+    double max() const { return m_max; }
+    void setMax(double max) { m_max = max; }
+
+    bool isValid() const override;
+    QString syntaxError() override;
+    void reset() override;
+
+protected:
+    const ElementForm& form() const override;
+    quint32 openElement(ElementReader& in) override;
+    void writeAttributes(QXmlStreamWriter& writer) const override;
+
+private:
+    void writeMin(QXmlStreamWriter& writer, const QString& tag) const;
+    void writeMax(QXmlStreamWriter& writer, const QString& tag) const;
+    bool lacksAttributes() const;
+
+    QString m_unit;
+    double m_min = 0.0;
+    double m_max = 0.0;
+};
+
+} // namespace ArvXml

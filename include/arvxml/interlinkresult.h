@@ -1,0 +1,43 @@
+#pragma once
+
+#include "arvxml/element.h"
+#include "arvxml/siteorders.h"
+
+namespace ArvXml {
+
+/// The result of interlink planning: `<InterlinkResult><Parameters>...</Parameters><Result>
+/// <Text>feasible</Text><ScreenshotFilename>link.png</ScreenshotFilename></Result></InterlinkResult>`,
+/// the file name optional.
+///
+/// Valid with valid parameters and a text ("Missing Result Text").
+class ARVXML_EXPORT XmlInterlinkResultType : public XmlComposite {
+public:
+    XmlInterlinkResultType();
+    /// The order's parameters, repeated.
+    const XmlInterlinkPlanningType* parameters() const { return &m_parameters; }
+    void setParameters(const XmlInterlinkPlanningType& parameters) { m_parameters = parameters; }
+
+    const QString& resultText() const { return m_resultText; }
+    void setResultText(const QString& text) { m_resultText = text; }
+
+    bool hasScreenshotFilename() const { return !m_screenshotFilename.isEmpty(); }
+    /// The name of the picture's file, empty for none.
+    const QString& screenshotFilename() const { return m_screenshotFilename; }
+    void setScreenshotFilename(const QString& filename) { m_screenshotFilename = filename; }
+
+    bool isValid() const override;
+    QString syntaxError() override;
+    void reset() override;
+
+protected:
+    const ElementForm& form() const override;
+
+private:
+    void writeResult(QXmlStreamWriter& writer, const QString& tag) const;
+
+    XmlInterlinkPlanningType m_parameters;
+    QString m_resultText;
+    QString m_screenshotFilename;
+};
+
+} // namespace ArvXml

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "arvxml/element.h"
+
+namespace ArvXml {
+
+/// The envelope of an order, in command and response documents:
+/// `<ORDER_DEF><ORDER_ID>ARV240305140709042</ORDER_ID><ORDER_SENDER>host</ORDER_SENDER></ORDER_DEF>`,
+/// both required, in this order.
+///
+/// Valid with both set ("Id not set.", "Sender not set."). An id of another form is dropped while
+/// reading, without an error; so is an empty sender.
+class ARVXML_EXPORT XmlOrderDef : public XmlComposite {
+public:
+    XmlOrderDef();
+
+    /// A fresh envelope: "ARV" with the local date and time to the millisecond as id, the name of
+    /// this host as sender. Two made within one millisecond have the same id. Without a host name
+    /// the sender stays empty and the envelope is not valid.
+    static XmlOrderDef createValidInstance();
+
+    const QString& orderId() const { return m_orderId; }
+    /// Stores \a id and returns true if it is "ARV" and exactly 15 digits; otherwise changes nothing.
+    bool setOrderId(const QString& id);
+    const QString& orderSender() const { return m_orderSender; }
+    /// Stores \a sender and returns true if it is not empty; otherwise changes nothing.
+    bool setOrderSender(const QString& sender);
+
+    bool isValid() const override;
+    QString syntaxError() override;
+    void reset() override;
+
+protected:
+    const ElementForm& form() const override;
+
+private:
+    QString m_orderId;
+    QString m_orderSender;
+};
+
+} // namespace ArvXml

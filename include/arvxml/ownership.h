@@ -1,0 +1,148 @@
+#pragma once
+
+#include <QtCore/QList>
+
+#include <memory>
+#include <utility>
+
+/// \file
+/// How an element holds its children. A child that is always present is a plain member of its own
+/// type; the two kinds below bring the copy rules for children that may be absent or repeated. With
+/// them, copying, assigning and destroying an element is the compiler's work.
+
+namespace ArvXml {
+
+/// A child that may be absent.
+///
+/// Copying copies the child. Assignment assigns into the child held if both sides hold one, removes
+/// it if the source holds none, and makes a copy if only the source holds one.
+template <typename T>
+class OptionalChild {
+public:
+    OptionalChild() = default;
+    OptionalChild(const OptionalChild& other)
+        : m_child(other.isPresent() ? std::make_unique<T>(*other.m_child) : nullptr)
+    {
+    }
+    OptionalChild(OptionalChild&&) noexcept = default;
+    ~OptionalChild() = default;
+
+    OptionalChild& operator=(const OptionalChild& other)
+    {
+        if (other.isPresent())
+            set(*other.m_child);
+        else
+            clear();
+        return *this;
+    }
+    OptionalChild& operator=(OptionalChild&&) noexcept = default;
+
+    bool isPresent() const { return m_child != nullptr; }
+
+    /// The child, or null when absent.
+    const T* get() const { return m_child.get(); }
+    T* get() { return m_child.get(); }
+
+    /// Assigns into the child held, or makes a copy when absent. \a value may be the child itself.
+    void set(const T& value)
+    {
+        if (isPresent())
+            *m_child = value;
+        else
+            m_child = std::make_unique<T>(value);
+    }
+
+    /// The child held, made with its defaults when absent.
+    T& obtain() { return isPresent() ? *m_child : renew(); }
+
+    /// A new child with its defaults in place of the one held, if any.
+    T& renew()
+    {
+        m_child = std::make_unique<T>();
+        return *m_child;
+    }
+
+    void clear() { m_child.reset(); }
+
+    /// Gives the child held up to the caller without destroying it; the child is then absent.
+    T* release() { return m_child.release(); }
+
+private:
+    std::unique_ptr<T> m_child;
+};
+
+/// Children that are repeated. \a Pointers is the container that getters hand out.
+///
+/// Copying copies every item. The items belong to this list, whoever else holds their pointers.
+template <typename T, typename Pointers = QList<T*>>
+class OwnedList {
+public:
+    OwnedList() = default;
+    OwnedList(const OwnedList& other)
+        : m_items(copiesOf(other.m_items))
+    {
+    }
+    OwnedList(OwnedList&& other) noexcept { m_items.swap(other.m_items); }
+    ~OwnedList() { qDeleteAll(m_items); }
+
+    OwnedList& operator=(const OwnedList& other)
+    {
+        set(other.m_items);
+        return *this;
+    }
+    OwnedList& operator=(OwnedList&& other) noexcept
+    {
+        m_items.swap(other.m_items);
+        return *this;
+    }
+
+    const Pointers& items() const { return m_items; }
+    bool isEmpty() const { return m_items.isEmpty(); }
+    int size() const { return static_cast<int>(m_items.size()); }
+
+    /// Replaces the items held by a copy of each given one, null pointers left out. \a items may be
+    /// the list held or hold items of it.
+    void set(const Pointers& items)
+    {
+        Pointers copies = copiesOf(items);
+        m_items.swap(copies);
+        qDeleteAll(copies);
+    }
+
+    /// Appends a new item with its defaults.
+    T& append() { return adopt(new T()); }
+    /// Appends a copy of \a item, which may be an item of this list.
+    T& append(const T& item) { return adopt(new T(item)); }
+
+    void clear()
+    {
+        Pointers items;
+        m_items.swap(items);
+        qDeleteAll(items);
+    }
+
+    /// The pointers themselves, for reordering; the set of items must stay the same.
+    Pointers& order() { return m_items; }
+
+private:
+    static Pointers copiesOf(const Pointers& items)
+    {
+        Pointers copies;
+        copies.reserve(items.size());
+        for (const T* item : items) {
+            if (item)
+                copies.append(new T(*item));
+        }
+        return copies;
+    }
+
+    T& adopt(T* item)
+    {
+        m_items.append(item);
+        return *item;
+    }
+
+    Pointers m_items;
+};
+
+} // namespace ArvXml

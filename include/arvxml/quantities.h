@@ -1,0 +1,203 @@
+#pragma once
+
+#include "arvxml/element.h"
+
+namespace ArvXml {
+
+struct QuantityRules;
+
+/// The base of the measured quantities: an element whose text is one number, with the attribute
+/// "version" and, for all but the SINAD, "unit".
+///
+/// A text that is no number is the reader error "Illegal value (must be numeric)" and leaves the
+/// default in the element; an empty element leaves the value as it was. Setters store without
+/// checking; numbers out of range and wrong versions are reported by isValid() and syntaxError().
+class ARVXML_EXPORT XmlQuantity : public XmlElementBase, public XmlVersioned {
+public:
+    void processXml(QXmlStreamReader& reader, const QString& tagName) override;
+    void produceXml(QXmlStreamWriter& writer, const QString& tagName) const override;
+    bool isValid() const override;
+    QString syntaxError() override;
+    void reset() override;
+
+protected:
+    XmlQuantity(const QString& className, const QuantityRules& rules);
+
+    virtual const QuantityRules& rules() const = 0;
+    /// What happens before the number is read: position and attributes.
+    virtual void openElement(ElementReader& in);
+    /// The unit to write; null for a quantity without one.
+    virtual const QString* writtenUnit() const;
+    /// Whether the quantity may have the unit it has.
+    virtual bool isUnitValid() const;
+    /// Takes a number as it stands on the wire.
+    virtual void takeNumber(double number);
+    /// The number as it stands on the wire.
+    virtual double writtenNumber() const;
+
+    double m_value;
+};
+
+/// The base of the quantities whose unit is fixed: it is written, but not read.
+class ARVXML_EXPORT XmlFixedUnitQuantity : public XmlQuantity {
+public:
+    const QString& unit() const;
+
+protected:
+    using XmlQuantity::XmlQuantity;
+
+    const QString* writtenUnit() const override;
+};
+
+/// The base of the quantities whose unit is read: the attribute "unit" is required ("Missing
+/// attribute: "unit""), its text is stored whatever it is, and judged afterwards.
+class ARVXML_EXPORT XmlReadUnitQuantity : public XmlQuantity {
+public:
+    const QString& unit() const { return m_unit; }
+    void reset() override;
+
+protected:
+    XmlReadUnitQuantity(const QString& className, const QuantityRules& rules);
+
+    void openElement(ElementReader& in) override;
+    const QString* writtenUnit() const override;
+    bool isUnitValid() const override;
+
+    QString m_unit;
+};
+
+/// A level in dBm: `<dBm version="1.0" unit="dBm">3.000000000</dBm>`. Default -110.0.
+///
+/// Valid only when greater than 2.2250738585072014e-308 and less than 1.7976931348623157e308: every
+/// zero and negative level is reported as "Illegal decibel.", the default included.
+class ARVXML_EXPORT XmlDBMType : public XmlFixedUnitQuantity {
+public:
+    XmlDBMType();
+    double dBm() const { return m_value; }
+    void setDBM(double dBm) { m_value = dBm; }
+
+protected:
+    const QuantityRules& rules() const override;
+};
+
+/// A ratio in dB: `<Decibel version="1.0" unit="dB">3.000000</Decibel>`. Default -0.0.
+///
+/// Valid only when greater than 2.2250738585072014e-308 and less than 1.7976931348623157e308: every
+/// zero and negative ratio is reported as "Illegal decibel.", the default included.
+class ARVXML_EXPORT XmlDecibelType : public XmlFixedUnitQuantity {
+public:
+    XmlDecibelType();
+    double decibel() const { return m_value; }
+    void setDecibel(double decibel) { m_value = decibel; }
+
+protected:
+    const QuantityRules& rules() const override;
+};
+
+/// An angle in degrees: `<Degrees version="1.0" unit="°">12.3</Degrees>`. Default -0.0.
+///
+/// Valid from 0.0 to 90.0; otherwise the problem reads "Illegal decibel.", for angles too.
+class ARVXML_EXPORT XmlDegreesType : public XmlFixedUnitQuantity {
+public:
+    XmlDegreesType();
+    double degrees() const { return m_value; }
+    void setDegrees(double degrees) { m_value = degrees; }
+
+protected:
+    const QuantityRules& rules() const override;
+};
+
+/// A length in whole metres: `<AntennaHeight version="1.0" unit="m">10</AntennaHeight>`. Default 0.
+///
+/// Read as a decimal integer: 12.5 is not numeric here. Any length is valid, with the unit "m"
+/// ("Illegal unit (must be "m").").
+class ARVXML_EXPORT XmlLengthType : public XmlReadUnitQuantity {
+public:
+    XmlLengthType();
+    int length() const { return static_cast<int>(m_value); }
+    void setLength(int length) { m_value = length; }
+
+protected:
+    const QuantityRules& rules() const override;
+};
+
+/// A power in W: `<TxPower version="1.0" unit="W">10.000000000000000</TxPower>`. Default -9.9.
+///
+/// Valid from -60.0 on ("Illegal power."), with the unit "W" ("Illegal unit.").
+class ARVXML_EXPORT XmlPowerType : public XmlReadUnitQuantity {
+public:
+    XmlPowerType();
+    double power() const { return m_value; }
+    void setPower(double power) { m_value = power; }
+
+protected:
+    const QuantityRules& rules() const override;
+};
+
+/// A frequency: `<Frequency version="1.0" unit="kHz">2400.000000</Frequency>`. Default -9.9 MHz.
+///
+/// The value is held in MHz, whatever the unit on the wire. A number read with an unknown unit is
+/// dropped (the value stays as it was) and the unit reported later. Valid above 0.0 ("Illegal
+/// frequency."), with the unit "Hz", "kHz", "MHz" or "GHz" ("Illegal unit.").
+class ARVXML_EXPORT XmlFreqType : public XmlReadUnitQuantity {
+public:
+    XmlFreqType();
+    double frequency_MHz() const { return m_value; }
+    void setFrequency_MHz(double frequency) { m_value = frequency; }
+    /// The unit to write in; it does not change the value held. An unknown unit is written with the
+    /// number of megahertz.
+    void setUnit(const QString& unit) { m_unit = unit; }
+
+protected:
+    const QuantityRules& rules() const override;
+    bool isUnitValid() const override;
+    void takeNumber(double number) override;
+    double writtenNumber() const override;
+};
+
+/// A bandwidth in kHz: `<Bandwidth version="1.0" unit="kHz">25</Bandwidth>`. Default -1.0.
+///
+/// Read as a decimal integer (25.5 is not numeric here), written with six significant digits. Valid
+/// from 0.0 on, with the unit "kHz". Its problems name another class: "XmlDfPrecisionType: Illegal
+/// precision." and "XmlDfPrecisionType: Illegal unit.".
+class ARVXML_EXPORT XmlBandwidthType : public XmlReadUnitQuantity {
+public:
+    XmlBandwidthType();
+    double bandwidth_khz() const { return m_value; }
+    void setBandwidth(double bandwidth) { m_value = bandwidth; }
+
+protected:
+    const QuantityRules& rules() const override;
+};
+
+/// A field strength threshold in dBm: `<RxThreshold version="1.0"
+/// unit="dBm">-100.000000000000000</RxThreshold>`. Default -99999.999.
+///
+/// Valid above -99999.989 ("Illegal fieldstrength."), just above the default, with the unit "dBm"
+/// ("Illegal unit.").
+class ARVXML_EXPORT XmlFieldstrengthType : public XmlReadUnitQuantity {
+public:
+    XmlFieldstrengthType();
+    double fieldstrength() const { return m_value; }
+    void setFieldstrength(double fieldstrength) { m_value = fieldstrength; }
+
+protected:
+    const QuantityRules& rules() const override;
+};
+
+/// A signal-to-interference ratio (SINAD): `<SINAD version="1.0">12.000000</SINAD>`, without a unit;
+/// a "unit" attribute is ignored. Default 0.0.
+///
+/// Valid only when greater than 2.2250738585072014e-308 and less than 1.7976931348623157e308;
+/// otherwise the problem reads "Illegal frequency.", for a SINAD too.
+class ARVXML_EXPORT XmlSinadType : public XmlQuantity {
+public:
+    XmlSinadType();
+    double sinad() const { return m_value; }
+    void setSinad(double sinad) { m_value = sinad; }
+
+protected:
+    const QuantityRules& rules() const override;
+};
+
+} // namespace ArvXml

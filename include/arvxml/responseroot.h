@@ -1,0 +1,71 @@
+#pragma once
+
+#include "arvxml/automaticresponse.h"
+#include "arvxml/element.h"
+#include "arvxml/orderdef.h"
+
+#include <QtCore/QDateTime>
+
+namespace ArvXml {
+
+/// The document element of a response: `<Response type="automatic" final="false"
+/// timestamp="2024-03-05T14:07:09"><ORDER_DEF>...</ORDER_DEF><Automatic status="ack">...</Automatic>
+/// </Response>`. The caller chooses its tag.
+///
+/// All three attributes are required; each that is missing or wrong is the reader error "Illegal
+/// attribute value in "NAME"", and of several the last one is reported. Whether type and content agree
+/// is not seen while reading, but judged. A new root is invalid until it has a type and the content of
+/// that type.
+class ARVXML_EXPORT XmlRespRoot : public XmlComposite {
+public:
+    /// Texts "interactive" and "automatic", read exactly so.
+    enum RespType : int {
+        RespUndefined = 0,
+        RespInteractive = 1,
+        RespAutomatic = 2,
+    };
+
+    XmlRespRoot();
+    RespType type() const { return m_type; }
+    void setType(RespType type) { m_type = type; }
+
+    /// Whether this is the last response to the order; true by default. Written as "true" or "false",
+    /// read in any letter case, or as "1" or "0".
+    bool isFinal() const { return m_final; }
+    void setFinal(bool last) { m_final = last; }
+
+    /// When the response was made, in ISO 8601 on the wire, to the second; the local time of
+    /// construction by default.
+    const QDateTime& timestamp() const { return m_timestamp; }
+    void setTimestamp(const QDateTime& timestamp) { m_timestamp = timestamp; }
+
+    bool hasOrderDef() const { return m_orderDef.isPresent(); }
+    /// The envelope of the order answered, null when absent. Read at any place, written first.
+    const XmlOrderDef* orderDef() const { return m_orderDef.get(); }
+    void setOrderDef(const XmlOrderDef& orderDef) { m_orderDef.set(orderDef); }
+
+    bool hasAutoResp() const { return m_automatic.isPresent(); }
+    /// The answer to a command, null when absent.
+    const XmlAutoRespType* autoResp() const { return m_automatic.get(); }
+    void setAutoResp(const XmlAutoRespType& response) { m_automatic.set(response); }
+
+    bool isValid() const override;
+    QString syntaxError() override;
+    void reset() override;
+
+protected:
+    const ElementForm& form() const override;
+    quint32 openElement(ElementReader& in) override;
+    void writeAttributes(QXmlStreamWriter& writer) const override;
+
+private:
+    bool takeFinal(const QString& text);
+
+    RespType m_type = RespUndefined;
+    bool m_final = true;
+    QDateTime m_timestamp;
+    OptionalChild<XmlOrderDef> m_orderDef;
+    OptionalChild<XmlAutoRespType> m_automatic;
+};
+
+} // namespace ArvXml

@@ -1,0 +1,99 @@
+#pragma once
+
+#include "arvxml/element.h"
+#include "arvxml/names.h"
+#include "arvxml/resultgrid.h"
+
+namespace ArvXml {
+
+/// The order of possible sensor sites within deployment areas, against known emitters, a number of
+/// random ones, or both: `<FindPossibleSites><UseKnownEmitters>...</UseKnownEmitters>
+/// <RandomEmitters><Number>10</Number><Distribution>Grid</Distribution></RandomEmitters>
+/// <DeploymentAreas>...</DeploymentAreas><ResultGrid>100</ResultGrid></FindPossibleSites>`, all but
+/// the deployment areas optional.
+///
+/// Random emitters need a number from 0 to 500 ("RandomEmitters/Number out of bounds") and a
+/// distribution ("RandomEmitters distribution not set"); without a distribution they are not written.
+/// While reading, a number that is no integer is "Illegal value for "Number" (must be numeric)", an
+/// unknown distribution "Illegal value for "Distribution"".
+class ARVXML_EXPORT XmlFindSitesType : public XmlComposite {
+public:
+    /// How random emitters are placed: texts "Random" and "Grid".
+    enum Distribution : int {
+        Undefined = 0,
+        Random = 1,
+        Grid = 2,
+    };
+
+    XmlFindSitesType();
+
+    bool hasKnownEmitters() const { return m_knownEmitters.isPresent(); }
+    /// The known emitters to consider, null when absent.
+    const XmlNameAllMultiType* knownEmitters() const { return m_knownEmitters.get(); }
+    void setKnownEmitters(const XmlNameAllMultiType& emitters) { m_knownEmitters.set(emitters); }
+
+    /// Whether random emitters are asked for: a number of 0 or more, and a distribution.
+    bool hasRandEmitters() const;
+    /// The number of random emitters, -1 (the default) for none.
+    int randNumber() const { return m_randNumber; }
+    void setRandNumber(int number) { m_randNumber = number; }
+    Distribution randDistri() { return m_randDistribution; }
+    Distribution randDistri() const { return m_randDistribution; }
+    void setRandDistri(Distribution distribution) { m_randDistribution = distribution; }
+
+    /// The deployment areas in which sites are sought.
+    const XmlNameAllMultiType* deploymentAreas() const { return &m_deploymentAreas; }
+    void setDeploymentAreas(const XmlNameAllMultiType& areas) { m_deploymentAreas = areas; }
+
+    bool hasResultGrid() const { return m_resultGrid.isPresent(); }
+    /// The spacing of the result grid, null when absent.
+    const XmlResultGridType* resultGrid() const { return m_resultGrid.get(); }
+    void setResultGrid(const XmlResultGridType& resultGrid) { m_resultGrid.set(resultGrid); }
+
+    bool isValid() const override;
+    QString syntaxError() override;
+    void reset() override;
+
+protected:
+    const ElementForm& form() const override;
+
+private:
+    void takeNumber(const QString& text, ElementReader& in);
+    void takeDistribution(const QString& text, ElementReader& in);
+    void writeRandomEmitters(QXmlStreamWriter& writer, const QString& tag) const;
+    bool isRandomNumberValid() const;
+    bool lacksDistribution() const;
+
+    OptionalChild<XmlNameAllMultiType> m_knownEmitters;
+    int m_randNumber;
+    Distribution m_randDistribution = Undefined;
+    XmlNameAllMultiType m_deploymentAreas;
+    OptionalChild<XmlResultGridType> m_resultGrid;
+};
+
+/// The order to plan the link between two named objects: `<InterlinkPlanning><FirstName>A</FirstName>
+/// <SecondName>B</SecondName></InterlinkPlanning>`, both required, in this order.
+///
+/// A name of more than 128 characters is an error while reading ("FirstName too long (max. 128)"),
+/// though it is stored; an empty one is a problem afterwards ("FirstName not set").
+class ARVXML_EXPORT XmlInterlinkPlanningType : public XmlComposite {
+public:
+    XmlInterlinkPlanningType();
+    const QString& firstName() const { return m_firstName; }
+    void setFirstName(const QString& name) { m_firstName = name; }
+    const QString& secondName() const { return m_secondName; }
+    void setSecondName(const QString& name) { m_secondName = name; }
+
+    bool isValid() const override;
+    QString syntaxError() override;
+    void reset() override;
+
+protected:
+    const ElementForm& form() const override;
+
+private:
+    QString m_firstName;
+    QString m_secondName;
+};
+
+} // namespace ArvXml

@@ -1,0 +1,88 @@
+#include "arvxml/coverageorders.h"
+
+#include "core/elementform.h"
+
+namespace ArvXml {
+
+XmlCepProbType::XmlCepProbType()
+    : XmlEnumeration(QStringLiteral("XmlCepProbType"))
+{
+}
+
+const EnumerationRules& XmlCepProbType::rules() const
+{
+    static const EnumerationRules rules = {
+        EnumerationTexts({"50", "66", "75", "90", "95"}),
+        "Illegal enum value", // no full stop here
+        "Illegal probability value.",
+    };
+    return rules;
+}
+
+XmlCepType::XmlCepType()
+    : XmlCoverageOrder(QStringLiteral("XmlCepType"))
+{
+}
+
+const ElementForm& XmlCepType::form() const
+{
+    static const ElementForm form = ElementForm(compositeWording)
+                                        .sequence({
+                                            required("UseDFs", child<&XmlCepType::m_sensors>()),
+                                            required("AOIs", child<&XmlCepType::m_areas>()),
+                                            optional("Probability", renewed<&XmlCepType::m_probability>()),
+                                            optional("ResultGrid", renewed<&XmlCepType::m_resultGrid>()),
+                                        });
+    return form;
+}
+
+XmlDetectProbType::XmlDetectProbType()
+    : XmlCoverageOrder(QStringLiteral("XmlDetectProbType"))
+{
+}
+
+const ElementForm& XmlDetectProbType::form() const
+{
+    static const ElementForm form = ElementForm(compositeWording)
+                                        .sequence({
+                                            required("UseRxDFs", child<&XmlDetectProbType::m_sensors>()),
+                                            required("AOIs", child<&XmlDetectProbType::m_areas>()),
+                                            optional("ResultGrid", renewed<&XmlDetectProbType::m_resultGrid>()),
+                                        });
+    return form;
+}
+
+XmlDfCovType::XmlDfCovType()
+    : XmlCoverageOrder(QStringLiteral("XmlDfCovType"))
+{
+}
+
+const ElementForm& XmlDfCovType::form() const
+{
+    static const ElementForm form = ElementForm(compositeWording)
+                                        .sequence({
+                                            required("UseDFs", child<&XmlDfCovType::m_sensors>()),
+                                            required("AOIs", child<&XmlDfCovType::m_areas>()),
+                                            optional("ResultGrid", renewed<&XmlDfCovType::m_resultGrid>()),
+                                        });
+    return form;
+}
+
+XmlBestSensorType::XmlBestSensorType()
+    : XmlCoverageOrder(QStringLiteral("XmlBestSensorType"))
+{
+}
+
+const ElementForm& XmlBestSensorType::form() const
+{
+    static const ElementForm form = ElementForm(compositeWording)
+                                        .sequence({
+                                            required("UseRxDFs", child<&XmlBestSensorType::m_sensors>()),
+                                            required("AOIs", child<&XmlBestSensorType::m_areas>()),
+                                            optional("ResultGrid", renewed<&XmlBestSensorType::m_resultGrid>()),
+                                            optional("Comment", renewed<&XmlBestSensorType::m_comment>()),
+                                        });
+    return form;
+}
+
+} // namespace ArvXml

@@ -1,0 +1,297 @@
+#include "arvxml/element.h"
+
+#include "core/elementform.h"
+#include "core/elementreader.h"
+
+#include <QtCore/QXmlStreamReader>
+#include <QtCore/QXmlStreamWriter>
+
+namespace ArvXml {
+
+namespace {
+
+QString supportedVersion()
+{
+    return QStringLiteral("1.0");
+}
+
+} // namespace
+
+IXmlElement::~IXmlElement() = default;
+
+// The base
+
+XmlElementBase::XmlElementBase(const QString& className)
+    : m_className(className)
+{
+}
+
+XmlElementBase::XmlElementBase(const XmlElementBase& other) = default;
+XmlElementBase::~XmlElementBase() = default;
+XmlElementBase& XmlElementBase::operator=(const XmlElementBase& other) = default;
+
+void XmlElementBase::reset()
+{
+    clearSyntaxError();
+}
+
+void XmlElementBase::setReaderError(QXmlStreamReader& reader, const QString& message)
+{
+    static const QString errorTemplate = QStringLiteral("in %3 (line %1, column %2): %4.");
+    reader.raiseError(errorTemplate.arg(reader.lineNumber(), 0, 10, QLatin1Char(' '))
+                          .arg(reader.columnNumber(), 0, 10, QLatin1Char(' '))
+                          .arg(m_className, message));
+}
+
+void XmlElementBase::addSyntaxError(const QString& text)
+{
+    if (text.isEmpty())
+        return;
+    if (!m_syntaxError.isEmpty())
+        m_syntaxError += QLatin1Char('\n');
+    m_syntaxError += text;
+}
+
+void XmlElementBase::clearSyntaxError()
+{
+    m_syntaxError.clear();
+}
+
+QString XmlElementBase::mySyntaxError()
+{
+    static const QString blockTemplate = QStringLiteral("+++ in %1 Begin:\n%2\n--- in %1 End");
+    return m_syntaxError.isEmpty() ? QString() : blockTemplate.arg(m_className, m_syntaxError);
+}
+
+// Versions
+
+XmlVersioned::XmlVersioned()
+    : m_version(supportedVersion())
+{
+}
+
+bool XmlVersioned::supportsVersion() const
+{
+    return m_version == supportedVersion();
+}
+
+void XmlVersioned::restoreVersion()
+{
+    m_version = supportedVersion();
+}
+
+void XmlVersioned::readVersion(ElementReader& in)
+{
+    in.takeAttribute(versionAttribute(), m_version);
+}
+
+void XmlVersioned::refuseOtherVersions(ElementReader& in) const
+{
+    if (!supportsVersion())
+        in.fail(QStringLiteral("Version not supported: %1").arg(m_version));
+}
+
+void XmlVersioned::writeVersion(QXmlStreamWriter& writer) const
+{
+    writer.writeAttribute(versionAttribute(), m_version);
+}
+
+QString XmlVersioned::versionError() const
+{
+    return supportsVersion() ? QString() : QStringLiteral("Version \"%1\" not supported").arg(m_version);
+}
+
+// Composites
+
+void XmlComposite::processXml(QXmlStreamReader& reader, const QString& tagName)
+{
+    const ElementForm& form = this->form();
+    ElementReader in(*this, reader, tagName, form.m_wording);
+    Marks read = openElement(in);
+
+    const auto onStart = [&] {
+        for (const Row& row : form.m_rows) {
+            if (reader.name() == row.tag && row.isOpen(read)) {
+                read |= row.sets;
+                row.content.read(*this, in, row.tag);
+                return;
+            }
+        }
+        in.refuseStart();
+    };
+    const auto onEnd = [&] {
+        if (in.atOwnTag() && isComplete(read)) {
+            form.m_whenComplete(*this);
+            return true;
+        }
+        for (const InnerEnd& end : form.m_innerEnds) {
+            if (reader.name() == end.tag && (read & end.needs) == end.needs) {
+                read = (read & ~end.clears) | end.sets;
+                end.effect(*this);
+                return false;
+            }
+        }
+        in.refuseEnd();
+        return false;
+    };
+    in.readTokens(onStart, onEnd, [&] { read |= form.m_onCharacters(*this, in, read); });
+}
+
+void XmlComposite::produceXml(QXmlStreamWriter& writer, const QString& tagName) const
+{
+    writer.writeStartElement(tagName);
+    writeAttributes(writer);
+    writeChildren(writer);
+    writer.writeEndElement();
+}
+
+bool XmlComposite::isValid() const
+{
+    for (const Row& row : form().m_rows) {
+        if (!row.content.isValid(*this))
+            return false;
+    }
+    return true;
+}
+
+QString XmlComposite::syntaxError()
+{
+    clearSyntaxError();
+    addChildrenErrors();
+    return mySyntaxError();
+}
+
+void XmlComposite::reset()
+{
+    for (const Row& row : form().m_rows)
+        row.content.reset(*this);
+    XmlElementBase::reset();
+}
+
+quint32 XmlComposite::openElement(ElementReader&)
+{
+    return 0;
+}
+
+bool XmlComposite::isComplete(quint32 read) const
+{
+    for (const ElementForm::Completion& completion : form().m_completions) {
+        if ((read & completion.among) == completion.marks)
+            return true;
+    }
+    return false;
+}
+
+void XmlComposite::writeAttributes(QXmlStreamWriter&) const { }
+
+void XmlComposite::writeChildren(QXmlStreamWriter& writer) const
+{
+    for (const Row& row : form().m_rows)
+        row.content.write(*this, writer, row.writtenTag);
+}
+
+void XmlComposite::addChildrenErrors()
+{
+    for (const Row& row : form().m_rows)
+        addSyntaxError(row.content.syntaxError(*this));
+}
+
+bool XmlVersionedComposite::isValid() const
+{
+    return supportsVersion() && XmlComposite::isValid();
+}
+
+QString XmlVersionedComposite::syntaxError()
+{
+    clearSyntaxError();
+    addSyntaxError(versionError());
+    addChildrenErrors();
+    return mySyntaxError();
+}
+
+void XmlVersionedComposite::reset()
+{
+    restoreVersion();
+    XmlComposite::reset();
+}
+
+quint32 XmlVersionedComposite::openElement(ElementReader& in)
+{
+    restoreVersion();
+    if (in.requireStartTag())
+        readVersion(in);
+    if (form().m_refusesOtherVersions)
+        refuseOtherVersions(in);
+    return 0;
+}
+
+void XmlVersionedComposite::writeAttributes(QXmlStreamWriter& writer) const
+{
+    writeVersion(writer);
+}
+
+// Lists
+
+bool XmlList::isEmpty() const
+{
+    return form().m_rows.front().content.count(*this) == 0;
+}
+
+bool XmlList::isValid() const
+{
+    return !isEmpty() && XmlVersionedComposite::isValid();
+}
+
+QString XmlList::syntaxError()
+{
+    clearSyntaxError();
+    addSyntaxError(versionError());
+    addChildrenErrors();
+    if (isEmpty())
+        addSyntaxError(form().m_tooFew);
+    return mySyntaxError();
+}
+
+quint32 XmlList::openElement(ElementReader& in)
+{
+    form().m_rows.front().content.reset(*this);
+    return XmlVersionedComposite::openElement(in);
+}
+
+// Enumerations
+
+void XmlEnumeration::processXml(QXmlStreamReader& reader, const QString& tagName)
+{
+    ElementReader in(*this, reader, tagName, leafWording);
+    in.readLeaf([&](const auto& text) {
+        m_value = rules().texts.value(text);
+        if (m_value == 0)
+            in.fail(QString::fromLatin1(rules().unknownText));
+    });
+}
+
+void XmlEnumeration::produceXml(QXmlStreamWriter& writer, const QString& tagName) const
+{
+    writer.writeTextElement(tagName, rules().texts.text(m_value));
+}
+
+bool XmlEnumeration::isValid() const
+{
+    return m_value != 0;
+}
+
+QString XmlEnumeration::syntaxError()
+{
+    clearSyntaxError();
+    if (m_value == 0)
+        addSyntaxError(QString::fromLatin1(rules().undefinedError));
+    return mySyntaxError();
+}
+
+void XmlEnumeration::reset()
+{
+    m_value = 0;
+    XmlElementBase::reset();
+}
+
+} // namespace ArvXml

@@ -1,0 +1,88 @@
+#include "arvxml/orderdef.h"
+
+#include "core/elementform.h"
+
+#include <QtCore/QDateTime>
+#include <QtNetwork/QHostInfo>
+
+#include <algorithm>
+
+namespace ArvXml {
+
+namespace {
+
+constexpr QLatin1String idPrefix("ARV");
+constexpr int idDigits = 15;
+
+bool isOrderId(const QString& text)
+{
+    return text.size() == idPrefix.size() + idDigits && text.startsWith(idPrefix)
+        && std::all_of(text.cbegin() + idPrefix.size(), text.cend(), [](QChar c) { return c.isDigit(); });
+}
+
+} // namespace
+
+XmlOrderDef::XmlOrderDef()
+    : XmlComposite(QStringLiteral("XmlOrderDef"))
+{
+}
+
+const ElementForm& XmlOrderDef::form() const
+{
+    static const ElementForm form =
+        ElementForm(compositeWording)
+            .sequence({
+                required("ORDER_ID", text<XmlOrderDef, &XmlOrderDef::setOrderId, &XmlOrderDef::orderId>()),
+                required("ORDER_SENDER", text<XmlOrderDef, &XmlOrderDef::setOrderSender, &XmlOrderDef::orderSender>()),
+            });
+    return form;
+}
+
+XmlOrderDef XmlOrderDef::createValidInstance()
+{
+    XmlOrderDef order;
+    const QString now = QDateTime::currentDateTime().toString(QStringLiteral("yyMMddhhmmsszzz"));
+    order.setOrderId(idPrefix + now);
+    order.setOrderSender(QHostInfo::localHostName());
+    return order;
+}
+
+bool XmlOrderDef::setOrderId(const QString& id)
+{
+    const bool accepted = isOrderId(id);
+    if (accepted)
+        m_orderId = id;
+    return accepted;
+}
+
+bool XmlOrderDef::setOrderSender(const QString& sender)
+{
+    const bool accepted = !sender.isEmpty();
+    if (accepted)
+        m_orderSender = sender;
+    return accepted;
+}
+
+bool XmlOrderDef::isValid() const
+{
+    return !m_orderId.isEmpty() && !m_orderSender.isEmpty();
+}
+
+QString XmlOrderDef::syntaxError()
+{
+    clearSyntaxError();
+    if (m_orderId.isEmpty())
+        addSyntaxError(QStringLiteral("Id not set."));
+    if (m_orderSender.isEmpty())
+        addSyntaxError(QStringLiteral("Sender not set."));
+    return mySyntaxError();
+}
+
+void XmlOrderDef::reset()
+{
+    m_orderId.clear();
+    m_orderSender.clear();
+    XmlComposite::reset();
+}
+
+} // namespace ArvXml

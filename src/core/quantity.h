@@ -1,0 +1,24 @@
+#pragma once
+
+#include "core/numbers.h"
+
+#include <QtCore/QString>
+
+namespace ArvXml {
+
+/// What is particular to one measured quantity.
+struct QuantityRules {
+    enum Numbers { Real, Integer };
+
+    QString unit;        ///< the fixed unit, or the one by default; empty when there is none
+    double fallback;     ///< the default, also stored for a text that is no number
+    Numbers numbers;     ///< what the text may be
+    NumberFormat format; ///< how it is written
+    /// The two judges of a value: they differ for a value that is no number at all (NaN).
+    bool (*isValid)(double value);
+    bool (*isReported)(double value);
+    const char* valueError;
+    const char* unitError;
+};
+
+} // namespace ArvXml

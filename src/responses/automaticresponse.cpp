@@ -1,0 +1,133 @@
+#include "arvxml/automaticresponse.h"
+
+#include "core/elementform.h"
+
+namespace ArvXml {
+
+namespace {
+
+constexpr char referenceTag[] = "CommandReference";
+constexpr char errorTag[] = "ErrorMessage";
+constexpr char timeTag[] = "EstimatedTime";
+constexpr char versionTag[] = "ArvVersion";
+constexpr char gridTag[] = "GridResult";
+constexpr char interlinkTag[] = "InterlinkResult";
+
+QString statusAttribute()
+{
+    return QStringLiteral("status");
+}
+
+const EnumerationTexts& statusTexts()
+{
+    static const EnumerationTexts texts({"fault", "ack"});
+    return texts;
+}
+
+} // namespace
+
+XmlAutoRespType::XmlAutoRespType()
+    : XmlComposite(QStringLiteral("XmlAutoRespType"))
+{
+}
+
+const ElementForm& XmlAutoRespType::form() const
+{
+    using Self = XmlAutoRespType;
+    enum : Marks { Reference = 1, Item = 2 };
+    static const ElementForm form = ElementForm(compositeWording)
+                                        .children({
+                                            {referenceTag, Reference, Reference | Item, child<&Self::m_reference>()},
+                                            {errorTag, Item, Item, takenBy<&Self::setErrorMessage>()},
+                                            {timeTag, Item, Item, takenBy<&Self::takeEstimatedTime>()},
+                                            {gridTag, Item, Item, renewed<&Self::m_gridResult>()},
+                                            {interlinkTag, Item, Item, renewed<&Self::m_interlinkResult>()},
+                                            {versionTag, Item, Item, takenBy<&Self::setArvVersion>()},
+                                        })
+                                        .completeWith(Reference | Item);
+    return form;
+}
+
+quint32 XmlAutoRespType::openElement(ElementReader& in)
+{
+    if (!in.requireStartTag())
+        return 0;
+    m_status = static_cast<RespStatus>(statusTexts().value(in.attribute(statusAttribute())));
+    if (m_status == StatusUndefined)
+        in.refuseAttribute(statusAttribute());
+    return 0;
+}
+
+void XmlAutoRespType::takeEstimatedTime(const QString& text, ElementReader& in)
+{
+    m_estimatedTime = QDateTime::fromString(text, Qt::ISODate);
+    if (!m_estimatedTime.isValid())
+        in.fail(QStringLiteral("Illegal dateTime format"));
+}
+
+void XmlAutoRespType::produceXml(QXmlStreamWriter& writer, const QString& tagName) const
+{
+    writer.writeStartElement(tagName);
+    writer.writeAttribute(statusAttribute(), statusTexts().text(m_status));
+    m_reference.produceXml(writer, QString::fromLatin1(referenceTag));
+    if (hasErrorMessage()) {
+        writer.writeTextElement(QString::fromLatin1(errorTag), m_errorMessage); // and nothing more
+    } else if (hasEstimatedTime()) {
+        writer.writeTextElement(QString::fromLatin1(timeTag), m_estimatedTime.toString(Qt::ISODate)); // likewise
+    } else {
+        if (hasArvVersion())
+            writer.writeTextElement(QString::fromLatin1(versionTag), m_arvVersion);
+        writeMember(m_gridResult, writer, QString::fromLatin1(gridTag));
+        writeMember(m_interlinkResult, writer, QString::fromLatin1(interlinkTag));
+    }
+    writer.writeEndElement();
+}
+
+bool XmlAutoRespType::isValid() const
+{
+    if (m_status == StatusUndefined || !XmlComposite::isValid())
+        return false;
+    if (hasErrorMessage())
+        return m_status == StatusFault && !hasEstimatedTime();
+    const int items = int(hasArvVersion()) + int(hasEstimatedTime()) + presentCount(m_gridResult, m_interlinkResult);
+    return m_status == StatusAck && items % 2 == 1; // one item, but three pass as well
+}
+
+QString XmlAutoRespType::syntaxError()
+{
+    const bool hasResult = hasGridResult() || hasInterlinkResult();
+
+    clearSyntaxError();
+    if (m_status == StatusUndefined)
+        addSyntaxError(QStringLiteral("Status not defined."));
+    addSyntaxError(memberError(m_reference));
+    if (hasErrorMessage()) {
+        if (m_status != StatusFault)
+            addSyntaxError(QStringLiteral("Has ErrorMessage but not status 'fault'"));
+        if (hasEstimatedTime())
+            addSyntaxError(QStringLiteral("Has ErrorMessage but also EstimatedTime"));
+    } else {
+        if (m_status != StatusAck)
+            addSyntaxError(QStringLiteral("Must have status 'ack'"));
+        if (hasEstimatedTime() && (hasArvVersion() || hasResult))
+            addSyntaxError(QStringLiteral("If EstimatedTime given, no results allowed"));
+        else if (hasArvVersion() && hasResult)
+            addSyntaxError(QStringLiteral("If ArvVersion set, no results allowed"));
+        else if (hasGridResult() && hasInterlinkResult())
+            addSyntaxError(QStringLiteral("Only one result allowed"));
+    }
+    addSyntaxError(memberError(m_gridResult));
+    addSyntaxError(memberError(m_interlinkResult));
+    return mySyntaxError();
+}
+
+void XmlAutoRespType::reset()
+{
+    m_status = StatusUndefined;
+    m_estimatedTime = QDateTime();
+    m_errorMessage.clear();
+    m_arvVersion.clear();
+    XmlComposite::reset();
+}
+
+} // namespace ArvXml

@@ -1,0 +1,281 @@
+#include "arvxml/gridresult.h"
+
+#include "core/elementform.h"
+#include "core/numbers.h"
+
+#include <array>
+
+namespace ArvXml {
+
+namespace {
+
+const EnumerationTexts& typeTexts()
+{
+    static const EnumerationTexts texts({"FindSites", "CEP", "DetectProb", "DfCoverage", "BestSensorCov"});
+    return texts;
+}
+
+// The wrappers of the parameters
+constexpr char findSitesTag[] = "FindPossibleSites";
+constexpr char cepTag[] = "CEP";
+constexpr char detectProbTag[] = "DetectionProbability";
+constexpr char dfCovTag[] = "DFcoverage";
+constexpr char bestSensorTag[] = "BestSensorCov";
+
+enum GridResultMarks : Marks {
+    InWrapper = 1,
+    WrapperDone = 2,
+    ParameterDone = 4,
+    FilenameDone = 8,
+    FirstType = 16, ///< set while reading a result of the first type, the next bit for the second
+};
+
+constexpr Marks typeMark(XmlGridResultType::ResultType type)
+{
+    return type == XmlGridResultType::ResultUndefined ? 0 : Marks(FirstType) << (type - 1);
+}
+
+/// Reads the parameters into a new set that takes the wrapper's tag for its own: it will refuse the
+/// end tag of "Parameter".
+template <typename T>
+void readAs(const char* wrapper, OptionalChild<T>& set, QXmlStreamReader& reader)
+{
+    set.renew().processXml(reader, QString::fromLatin1(wrapper));
+}
+
+/// Parameters of one kind, written in their wrapper together with the file name.
+template <auto Member>
+Content wrapped()
+{
+    Content content = heldIn<Member>();
+    content.read = Content().read; // the wrapper is only entered; "Parameter" is what reads the set
+    content.write = [](const XmlElementBase& owner, QXmlStreamWriter& writer, const QString& wrapper) {
+        const auto& set = memberOf<Member>(owner);
+        if (!set.isPresent())
+            return;
+        writer.writeStartElement(wrapper);
+        set.get()->produceXml(writer, QStringLiteral("Parameter"));
+        writer.writeTextElement(QStringLiteral("ScreenshotFilename"),
+                                static_cast<const XmlGridResultType&>(owner).screenshotFilename());
+        writer.writeEndElement();
+    };
+    return content;
+}
+
+} // namespace
+
+// A grid result
+
+XmlGridResultType::XmlGridResultType()
+    : XmlComposite(QStringLiteral("XmlGridResultType"))
+{
+}
+
+const ElementForm& XmlGridResultType::form() const
+{
+    using Self = XmlGridResultType;
+    constexpr Marks Entered = InWrapper | WrapperDone;
+    static const ElementForm form =
+        ElementForm(compositeWording)
+            .children({
+                {findSitesTag, InWrapper, Entered, wrapped<&Self::m_findSites>(), typeMark(ResultFindSites)},
+                {cepTag, InWrapper, Entered, wrapped<&Self::m_cep>(), typeMark(ResultCep)},
+                {detectProbTag, InWrapper, Entered, wrapped<&Self::m_detectProb>(), typeMark(ResultDetectProb)},
+                {dfCovTag, InWrapper, Entered, wrapped<&Self::m_dfCov>(), typeMark(ResultDfCoverage)},
+                {bestSensorTag, InWrapper, Entered, wrapped<&Self::m_bestSensor>(), typeMark(ResultBestSensorCov)},
+                {"Parameter", 0, ParameterDone | FilenameDone, readBy<&Self::readParameter>(), InWrapper},
+                {"ScreenshotFilename", FilenameDone, FilenameDone, takenBy<&Self::setScreenshotFilename>(),
+                 InWrapper | ParameterDone},
+            })
+            .innerEnds({
+                {"Parameter", InWrapper, 0, ParameterDone},
+                {findSitesTag, InWrapper, InWrapper, WrapperDone},
+                {cepTag, InWrapper, InWrapper, WrapperDone},
+                {detectProbTag, InWrapper, InWrapper, WrapperDone},
+                {dfCovTag, InWrapper, InWrapper, WrapperDone},
+                {bestSensorTag, InWrapper, InWrapper, WrapperDone},
+            })
+            .completeWhen(InWrapper | WrapperDone | ParameterDone | FilenameDone,
+                          WrapperDone | ParameterDone | FilenameDone);
+    return form;
+}
+
+quint32 XmlGridResultType::openElement(ElementReader& in)
+{
+    if (!in.requireStartTag())
+        return 0;
+    m_type = static_cast<ResultType>(typeTexts().value(in.attribute(typeAttribute())));
+    if (m_type == ResultUndefined)
+        in.refuseAttribute(typeAttribute());
+    return typeMark(m_type);
+}
+
+void XmlGridResultType::readParameter(QXmlStreamReader& reader)
+{
+    switch (m_type) { // the type decides, not the wrapper's name
+    case ResultFindSites:
+        return readAs(findSitesTag, m_findSites, reader);
+    case ResultCep:
+        return readAs(cepTag, m_cep, reader);
+    case ResultDetectProb:
+        return readAs(detectProbTag, m_detectProb, reader);
+    case ResultDfCoverage:
+        return readAs(dfCovTag, m_dfCov, reader);
+    case ResultBestSensorCov:
+        return readAs(bestSensorTag, m_bestSensor, reader);
+    case ResultUndefined:
+        return; // no wrapper was entered
+    }
+}
+
+void XmlGridResultType::writeAttributes(QXmlStreamWriter& writer) const
+{
+    writer.writeAttribute(typeAttribute(), typeTexts().text(m_type));
+}
+
+bool XmlGridResultType::hasParametersOfType() const
+{
+    const std::array<bool, 5> held = {hasFindSites(), hasCep(), hasDetectProb(), hasDfCov(), hasBestSensor()};
+    for (int i = 0; i < static_cast<int>(held.size()); ++i) {
+        const bool isOfType = i + 1 == m_type;
+        if (held[static_cast<std::size_t>(i)] != isOfType)
+            return false;
+    }
+    return true;
+}
+
+bool XmlGridResultType::isValid() const
+{
+    return m_type >= ResultFindSites && m_type <= ResultBestSensorCov && hasParametersOfType()
+        && XmlComposite::isValid() && !m_screenshotFilename.isEmpty();
+}
+
+QString XmlGridResultType::syntaxError()
+{
+    clearSyntaxError();
+    if (m_type >= ResultFindSites && m_type <= ResultBestSensorCov && !hasParametersOfType()) {
+        const QString& type = typeTexts().text(m_type);
+        addSyntaxError(QStringLiteral("Type is '%1' but no %1 parameters or other parameters found").arg(type));
+    }
+    addChildrenErrors();
+    if (m_type == ResultUndefined)
+        addSyntaxError(QStringLiteral("Type not defined"));
+    if (m_screenshotFilename.isEmpty())
+        addSyntaxError(QStringLiteral("Screenshot path not set"));
+    return mySyntaxError();
+}
+
+void XmlGridResultType::reset()
+{
+    m_type = ResultUndefined;
+    m_screenshotFilename.clear();
+    XmlComposite::reset();
+}
+
+// A range of values
+
+namespace {
+
+constexpr NumberFormat valueFormat = {'g', 6};
+
+enum GridValuesMarks : Marks { InMin = 1, MinDone = 2, InMax = 4, MaxDone = 8 };
+
+/// Nothing but a number in "Min" or "Max" is accepted, not even white space between them.
+Marks takeCharacters(XmlElementBase& owner, ElementReader& in, Marks read)
+{
+    auto& values = static_cast<XmlGridValuesType&>(owner);
+    bool ok = false;
+    const double number = toReal(in.stream().text(), &ok);
+    if (ok && (read & InMin) != 0)
+        values.setMin(number);
+    else if (ok && (read & InMax) != 0)
+        values.setMax(number);
+    else
+        in.fail(QStringLiteral("Unexpected characters"));
+    return 0;
+}
+
+} // namespace
+
+XmlGridValuesType::XmlGridValuesType()
+    : XmlVersionedComposite(QStringLiteral("XmlGridValuesType"))
+{
+}
+
+const ElementForm& XmlGridValuesType::form() const
+{
+    using Self = XmlGridValuesType;
+    static const ElementForm form = ElementForm(listWording)
+                                        .children({
+                                            {"Min", InMin, InMin | MinDone, writtenBy<&Self::writeMin>()},
+                                            {"Max", InMax, InMax | MaxDone, writtenBy<&Self::writeMax>(), MinDone},
+                                        })
+                                        .innerEnds({
+                                            {"Min", InMin, InMin, MinDone},
+                                            {"Max", InMax, InMax, MaxDone},
+                                        })
+                                        .completeWith(MaxDone)
+                                        .onCharacters(takeCharacters);
+    return form;
+}
+
+quint32 XmlGridValuesType::openElement(ElementReader& in)
+{
+    if (!in.requireStartTag())
+        return 0;
+    // Unlike elsewhere, what the tag does not say stays as it was, and what it says counts even when
+    // it is empty.
+    if (in.hasAttribute(versionAttribute()))
+        setVersion(in.attribute(versionAttribute()));
+    if (in.hasAttribute(unitAttribute()))
+        setUnit(in.attribute(unitAttribute()));
+    if (lacksAttributes())
+        in.fail(QStringLiteral("Missing mandatory attributes"));
+    refuseOtherVersions(in);
+    return 0;
+}
+
+void XmlGridValuesType::writeAttributes(QXmlStreamWriter& writer) const
+{
+    writeVersion(writer);
+    writer.writeAttribute(unitAttribute(), m_unit);
+}
+
+void XmlGridValuesType::writeMin(QXmlStreamWriter& writer, const QString& tag) const
+{
+    writer.writeTextElement(tag, numberText(m_min, valueFormat));
+}
+
+void XmlGridValuesType::writeMax(QXmlStreamWriter& writer, const QString& tag) const
+{
+    writer.writeTextElement(tag, numberText(m_max, valueFormat));
+}
+
+bool XmlGridValuesType::lacksAttributes() const
+{
+    return version().isEmpty() || m_unit.isEmpty();
+}
+
+bool XmlGridValuesType::isValid() const
+{
+    return supportsVersion() && !m_unit.isEmpty();
+}
+
+QString XmlGridValuesType::syntaxError()
+{
+    clearSyntaxError();
+    if (lacksAttributes())
+        addSyntaxError(QStringLiteral("Missing mandatory attributes"));
+    addSyntaxError(versionError());
+    return mySyntaxError();
+}
+
+void XmlGridValuesType::reset()
+{
+    // Version and unit stay as they are.
+    m_min = 0.0;
+    m_max = 0.0;
+    XmlElementBase::reset();
+}
+
+} // namespace ArvXml

@@ -1,0 +1,118 @@
+#include "arvxml/responseroot.h"
+
+#include "core/elementform.h"
+
+namespace ArvXml {
+
+namespace {
+
+QString finalAttribute()
+{
+    return QStringLiteral("final");
+}
+
+QString timestampAttribute()
+{
+    return QStringLiteral("timestamp");
+}
+
+const EnumerationTexts& typeTexts()
+{
+    static const EnumerationTexts texts({"interactive", "automatic"});
+    return texts;
+}
+
+} // namespace
+
+XmlRespRoot::XmlRespRoot()
+    : XmlComposite(QStringLiteral("XmlRespRoot"))
+    , m_timestamp(QDateTime::currentDateTime())
+{
+}
+
+const ElementForm& XmlRespRoot::form() const
+{
+    using Self = XmlRespRoot;
+    enum : Marks { Answer = 1 };
+    static const ElementForm form = ElementForm(compositeWording)
+                                        .children({
+                                            {"ORDER_DEF", 0, 0, renewed<&Self::m_orderDef>()},
+                                            {"Automatic", Answer, Answer, renewed<&Self::m_automatic>()},
+                                        })
+                                        .completeWith(0);
+    return form;
+}
+
+quint32 XmlRespRoot::openElement(ElementReader& in)
+{
+    if (!in.requireStartTag())
+        return 0;
+    m_type = static_cast<RespType>(typeTexts().value(in.attribute(typeAttribute())));
+    if (m_type == RespUndefined)
+        in.refuseAttribute(typeAttribute());
+    if (!takeFinal(in.attribute(finalAttribute())))
+        in.refuseAttribute(finalAttribute());
+    m_timestamp = QDateTime::fromString(in.attribute(timestampAttribute()), Qt::ISODate);
+    if (!m_timestamp.isValid())
+        in.refuseAttribute(timestampAttribute());
+    return 0;
+}
+
+bool XmlRespRoot::takeFinal(const QString& text)
+{
+    const auto is = [&text](QLatin1String word) { return text.compare(word, Qt::CaseInsensitive) == 0; };
+    if (is(QLatin1String("TRUE")) || text == QLatin1String("1"))
+        m_final = true;
+    else if (is(QLatin1String("FALSE")) || text == QLatin1String("0"))
+        m_final = false;
+    else
+        return false;
+    return true;
+}
+
+void XmlRespRoot::writeAttributes(QXmlStreamWriter& writer) const
+{
+    writer.writeAttribute(typeAttribute(), typeTexts().text(m_type));
+    writer.writeAttribute(finalAttribute(), m_final ? QStringLiteral("true") : QStringLiteral("false"));
+    writer.writeAttribute(timestampAttribute(), m_timestamp.toString(Qt::ISODate));
+}
+
+bool XmlRespRoot::isValid() const
+{
+    if (!isMemberValid(m_orderDef))
+        return false;
+    switch (m_type) {
+    case RespUndefined:
+        return false;
+    case RespAutomatic:
+        return hasAutoResp() && m_automatic.get()->isValid();
+    case RespInteractive:
+        return false; // there is no interactive content to hold
+    }
+    return true; // a type beyond the known ones is not checked against the content
+}
+
+QString XmlRespRoot::syntaxError()
+{
+    clearSyntaxError();
+    if (m_type == RespUndefined)
+        addSyntaxError(QStringLiteral("Type not defined."));
+    else if (m_type == RespAutomatic && !hasAutoResp())
+        addSyntaxError(QStringLiteral("Type automatic but no content"));
+    else if (m_type == RespAutomatic)
+        addSyntaxError(memberError(m_automatic));
+    else if (m_type == RespInteractive)
+        addSyntaxError(QStringLiteral("Type interactive but no content"));
+    addSyntaxError(memberError(m_orderDef));
+    return mySyntaxError();
+}
+
+void XmlRespRoot::reset()
+{
+    m_type = RespUndefined;
+    m_final = true;
+    m_timestamp = QDateTime::currentDateTime();
+    XmlComposite::reset();
+}
+
+} // namespace ArvXml
