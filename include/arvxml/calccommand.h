@@ -7,11 +7,10 @@
 namespace ArvXml {
 
 /// The command to calculate: `<Calculate><CEP>...</CEP><Reference>42</Reference></Calculate>`, exactly
-/// one order ("Too many or too few elements."), then the reference.
+/// one order, then the reference.
 ///
-/// Setters fill the order of their kind and leave the others; an order read replaces the one of its
-/// kind. Reading does not reset the command first.
-class ARVXML_EXPORT XmlCmdCalc : public XmlCommand {
+/// An order read replaces the one of its kind; reading does not reset the command first.
+class ARVXML_EXPORT XmlCmdCalc : public XmlChoiceCommand {
 public:
     XmlCmdCalc();
 
@@ -46,15 +45,10 @@ public:
     bool hasBestSensor() const { return m_bestSensor.isPresent(); }
     void setBestSensor(const XmlBestSensorType& order) { m_bestSensor.set(order); }
 
-    bool isValid() const override;
-    QString syntaxError() override;
-
 protected:
     const ElementForm& form() const override;
 
 private:
-    bool hasExactlyOneOrder() const;
-
     OptionalChild<XmlFindSitesType> m_findSites;
     OptionalChild<XmlCepType> m_cep;
     OptionalChild<XmlDetectProbType> m_detectProb;

@@ -31,4 +31,19 @@ protected:
     XmlReferenceType m_reference;
 };
 
+/// The base of the commands that hold exactly one thing out of several, followed by the reference. With
+/// none or more the problem reads "Too many or too few elements.". Setters fill the slot of their kind
+/// and never clear another.
+class ARVXML_EXPORT XmlChoiceCommand : public XmlCommand {
+public:
+    bool isValid() const override;
+    QString syntaxError() override;
+
+protected:
+    using XmlCommand::XmlCommand;
+
+private:
+    bool holdsExactlyOne() const;
+};
+
 } // namespace ArvXml

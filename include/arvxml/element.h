@@ -144,6 +144,8 @@ protected:
     void writeChildren(QXmlStreamWriter& writer) const;
     /// Adds the problems of the children in the order of the form.
     void addChildrenErrors();
+    /// How many children the element holds.
+    int heldChildren() const;
 };
 
 /// A composite with a version.
@@ -171,9 +173,6 @@ protected:
     using XmlVersionedComposite::XmlVersionedComposite;
 
     quint32 openElement(ElementReader& in) override;
-
-private:
-    bool isEmpty() const;
 };
 
 /// The base of the elements whose content is one text out of a list. Value 0 means that none is

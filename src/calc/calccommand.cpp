@@ -5,7 +5,7 @@
 namespace ArvXml {
 
 XmlCmdCalc::XmlCmdCalc()
-    : XmlCommand(QStringLiteral("XmlCmdCalc"))
+    : XmlChoiceCommand(QStringLiteral("XmlCmdCalc"))
 {
 }
 
@@ -26,26 +26,6 @@ const ElementForm& XmlCmdCalc::form() const
             })
             .completeWith(Order | Reference);
     return form;
-}
-
-bool XmlCmdCalc::hasExactlyOneOrder() const
-{
-    return presentCount(m_findSites, m_cep, m_detectProb, m_dfCov, m_interlink, m_bestSensor) == 1;
-}
-
-bool XmlCmdCalc::isValid() const
-{
-    return XmlCommand::isValid() && hasExactlyOneOrder();
-}
-
-QString XmlCmdCalc::syntaxError()
-{
-    clearSyntaxError();
-    addSyntaxError(memberError(m_reference)); // reported first, though written last
-    addChildrenErrors();
-    if (!hasExactlyOneOrder())
-        addSyntaxError(QStringLiteral("Too many or too few elements."));
-    return mySyntaxError();
 }
 
 } // namespace ArvXml

@@ -1,6 +1,7 @@
 #include "arvxml/coverageorders.h"
 
 #include "core/elementform.h"
+#include "core/enumeration.h"
 
 namespace ArvXml {
 

@@ -1,6 +1,6 @@
 #include "arvxml/resultgrid.h"
 
-#include "core/elementform.h"
+#include "core/enumeration.h"
 
 namespace ArvXml {
 

@@ -1,6 +1,7 @@
 #include "arvxml/siteorders.h"
 
 #include "core/elementform.h"
+#include "core/enumeration.h"
 #include "core/numbers.h"
 
 namespace ArvXml {

@@ -1,7 +1,7 @@
 #include "arvxml/element.h"
 
 #include "core/elementform.h"
-#include "core/elementreader.h"
+#include "core/enumeration.h"
 
 #include <QtCore/QXmlStreamReader>
 #include <QtCore/QXmlStreamWriter>
@@ -196,6 +196,14 @@ void XmlComposite::addChildrenErrors()
         addSyntaxError(row.content.syntaxError(*this));
 }
 
+int XmlComposite::heldChildren() const
+{
+    int count = 0;
+    for (const Row& row : form().m_rows)
+        count += row.content.count(*this);
+    return count;
+}
+
 bool XmlVersionedComposite::isValid() const
 {
     return supportsVersion() && XmlComposite::isValid();
@@ -232,14 +240,9 @@ void XmlVersionedComposite::writeAttributes(QXmlStreamWriter& writer) const
 
 // Lists
 
-bool XmlList::isEmpty() const
-{
-    return form().m_rows.front().content.count(*this) == 0;
-}
-
 bool XmlList::isValid() const
 {
-    return !isEmpty() && XmlVersionedComposite::isValid();
+    return heldChildren() > 0 && XmlVersionedComposite::isValid();
 }
 
 QString XmlList::syntaxError()
@@ -247,7 +250,7 @@ QString XmlList::syntaxError()
     clearSyntaxError();
     addSyntaxError(versionError());
     addChildrenErrors();
-    if (isEmpty())
+    if (heldChildren() == 0)
         addSyntaxError(form().m_tooFew);
     return mySyntaxError();
 }

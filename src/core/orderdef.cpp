@@ -11,7 +11,7 @@ namespace ArvXml {
 
 namespace {
 
-constexpr QLatin1String idPrefix("ARV");
+const QLatin1String idPrefix("ARV");
 constexpr int idDigits = 15;
 
 bool isOrderId(const QString& text)

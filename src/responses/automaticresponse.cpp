@@ -1,6 +1,7 @@
 #include "arvxml/automaticresponse.h"
 
 #include "core/elementform.h"
+#include "core/enumeration.h"
 
 namespace ArvXml {
 
@@ -89,7 +90,7 @@ bool XmlAutoRespType::isValid() const
         return false;
     if (hasErrorMessage())
         return m_status == StatusFault && !hasEstimatedTime();
-    const int items = int(hasArvVersion()) + int(hasEstimatedTime()) + presentCount(m_gridResult, m_interlinkResult);
+    const int items = int(hasArvVersion()) + int(hasEstimatedTime()) + int(hasGridResult()) + int(hasInterlinkResult());
     return m_status == StatusAck && items % 2 == 1; // one item, but three pass as well
 }
 

@@ -1,6 +1,7 @@
 #include "arvxml/gridresult.h"
 
 #include "core/elementform.h"
+#include "core/enumeration.h"
 #include "core/numbers.h"
 
 #include <array>
@@ -275,7 +276,7 @@ void XmlGridValuesType::reset()
     // Version and unit stay as they are.
     m_min = 0.0;
     m_max = 0.0;
-    XmlElementBase::reset();
+    clearSyntaxError();
 }
 
 } // namespace ArvXml

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QtCore/QString>
+
+#include <initializer_list>
+#include <vector>
+
+namespace ArvXml {
+
+/// The accepted texts of an enumeration, the text of value 1 first.
+class EnumerationTexts {
+public:
+    explicit EnumerationTexts(std::initializer_list<const char*> texts);
+
+    /// The value of \a text, 0 when it is not among the texts.
+    template <typename Text>
+    int value(const Text& text) const
+    {
+        for (std::size_t i = 1; i < m_texts.size(); ++i) {
+            if (text == m_texts[i])
+                return static_cast<int>(i);
+        }
+        return 0;
+    }
+    /// The text of \a value, "UNDEFINED" when it has none.
+    const QString& text(int value) const;
+
+private:
+    std::vector<QString> m_texts;
+};
+
+/// What is particular to one enumeration element.
+struct EnumerationRules {
+    EnumerationTexts texts;
+    const char* unknownText;    ///< raised for a text that is not among them
+    const char* undefinedError; ///< the problem of value 0
+};
+
+} // namespace ArvXml
