@@ -1,0 +1,173 @@
+// An example tool: tells of XML files which document of the protocol each is, and whether it is
+// acceptable.
+
+#include "common/document.h"
+
+#include <arvxml/arvxml.h>
+
+#include <QtCore/QCommandLineParser>
+#include <QtCore/QCoreApplication>
+#include <QtCore/QFile>
+#include <QtCore/QXmlStreamReader>
+
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+#include <vector>
+
+using namespace ArvXml;
+
+namespace {
+
+enum Status {
+    Acceptable = 0,
+    NotAcceptable = 1,
+    NotReadable = 2, ///< no such file, no XML, or none of the protocol's documents
+};
+
+template <typename Root>
+std::unique_ptr<IXmlElement> make()
+{
+    return std::make_unique<Root>();
+}
+
+/// A kind of document. The document element's tag is free, so a kind is recognised by any of these
+/// attributes of the document element, or any of these children.
+struct Kind {
+    const char* name;
+    QStringList attributes;
+    QStringList children;
+    std::unique_ptr<IXmlElement> (*make)();
+};
+
+QStringList words(const char* text)
+{
+    return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
+/// The first kind that fits counts. A response may have an ORDER_DEF, too, so it comes first.
+const std::vector<Kind>& kinds()
+{
+    static const std::vector<Kind> table = {
+        {"response", words("type final timestamp"), words("Automatic Interactive"), make<XmlRespRoot>},
+        {"command document", words(""), words("ORDER_DEF Administrative Create Delete PropagationModel Calculate"),
+         make<XmlCmdRoot>},
+    };
+    return table;
+}
+
+/// What is seen of a document without knowing its kind.
+struct Outline {
+    QString tag; ///< empty when there is no document element
+    QStringList attributes;
+    QStringList children; ///< as far as the document is well-formed
+    QString error;
+};
+
+Outline outlineOf(const QByteArray& document)
+{
+    Outline outline;
+    QXmlStreamReader reader(document);
+    if (Document::goToRoot(reader)) {
+        outline.tag = reader.name().toString();
+        const QXmlStreamAttributes attributes = reader.attributes();
+        for (const QXmlStreamAttribute& attribute : attributes)
+            outline.attributes.append(attribute.name().toString());
+        while (reader.readNextStartElement()) {
+            const QString child = reader.name().toString();
+            if (!outline.children.contains(child))
+                outline.children.append(child);
+            reader.skipCurrentElement();
+        }
+    }
+    outline.error = reader.errorString();
+    return outline;
+}
+
+const Kind* kindOf(const Outline& outline)
+{
+    const auto overlap = [](const QStringList& some, const QStringList& others) {
+        return std::any_of(some.begin(), some.end(), [&others](const QString& one) { return others.contains(one); });
+    };
+    for (const Kind& kind : kinds()) {
+        if (overlap(kind.attributes, outline.attributes) || overlap(kind.children, outline.children))
+            return &kind;
+    }
+    return nullptr;
+}
+
+struct Settings {
+    bool rewrite = false;
+    bool indent = false;
+};
+
+/// Tells about one file. With rewriting, the standard output is for documents alone.
+Status inspect(const QString& fileName, const Settings& settings)
+{
+    const auto report = [&](Status status, const QString& text) {
+        std::fprintf(settings.rewrite ? stderr : stdout, "%s: %s\n", qPrintable(fileName), qPrintable(text));
+        return status;
+    };
+
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        return report(NotReadable, QStringLiteral("cannot be opened: %1").arg(file.errorString()));
+    const QByteArray document = file.readAll();
+    const Outline outline = outlineOf(document);
+    if (outline.tag.isEmpty())
+        return report(NotReadable, QStringLiteral("no document: %1").arg(outline.error));
+    const Kind* kind = kindOf(outline);
+    if (!kind)
+        return report(NotReadable, QStringLiteral("<%1> is no document of the protocol").arg(outline.tag));
+
+    const QString name = QString::fromLatin1(kind->name);
+    const std::unique_ptr<IXmlElement> root = kind->make();
+    const Document::ReadError error = Document::read(document, *root);
+    if (error) {
+        return report(NotAcceptable,
+                      QStringLiteral("%1, reading stops at line %2, column %3: %4")
+                          .arg(name)
+                          .arg(error.line)
+                          .arg(error.column)
+                          .arg(error.text));
+    }
+    if (settings.rewrite)
+        std::printf("%s\n", Document::written(*root, outline.tag, settings.indent).trimmed().constData());
+    if (!root->isValid())
+        return report(NotAcceptable, QStringLiteral("%1, not acceptable:\n%2").arg(name, root->syntaxError()));
+    return report(Acceptable, QStringLiteral("%1, acceptable").arg(name));
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication app(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("inspect"));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Tells which document of the protocol each file is, and what is wrong with it.\n"
+                       "Exit status: 0 all acceptable, 1 not acceptable, 2 not readable at all."));
+    parser.addHelpOption();
+    const QCommandLineOption rewriteOption(
+        QStringLiteral("rewrite"),
+        QStringLiteral("Write each document that could be read to the standard output, and the report elsewhere."));
+    const QCommandLineOption indentOption(QStringLiteral("indent"), QStringLiteral("Indent what is rewritten."));
+    parser.addOptions({rewriteOption, indentOption});
+    parser.addPositionalArgument(QStringLiteral("files"), QStringLiteral("The files."), QStringLiteral("files..."));
+    parser.process(app);
+
+    const QStringList files = parser.positionalArguments();
+    if (files.isEmpty()) {
+        std::fprintf(stderr, "%s", qPrintable(parser.helpText()));
+        return NotReadable;
+    }
+    Settings settings;
+    settings.rewrite = parser.isSet(rewriteOption);
+    settings.indent = parser.isSet(indentOption);
+    Status worst = Acceptable;
+    for (const QString& file : files)
+        worst = std::max(worst, inspect(file, settings));
+    return worst;
+}

@@ -1,0 +1,162 @@
+// An example client: sends one order to the service and tells what comes back.
+
+#include "common/framing.h"
+#include "planning_client/answers.h"
+#include "planning_client/orders.h"
+
+#include <QtCore/QCommandLineParser>
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDeadlineTimer>
+#include <QtCore/QFile>
+#include <QtNetwork/QNetworkProxy>
+#include <QtNetwork/QTcpSocket>
+
+#include <cstdio>
+
+namespace {
+
+/// The exit status of the program.
+enum Status {
+    Carried = 0, ///< the order was carried out
+    Refused = 1, ///< the order was not acceptable, to us or to the service
+    Failed = 2,  ///< there was no proper conversation, or it was called wrongly
+};
+
+void say(const QString& text)
+{
+    std::printf("%s", qPrintable(text));
+    std::fflush(stdout);
+}
+
+int fail(const QString& text)
+{
+    std::fprintf(stderr, "%s\n", qPrintable(text));
+    return Failed;
+}
+
+/// Sends \a order and tells the answers, until \a finalAnswers of them were final. Raw bytes have no
+/// id, and take every answer.
+int converse(const Order& order, quint16 port, int finalAnswers, QDeadlineTimer deadline)
+{
+    const auto remaining = [&deadline] { return static_cast<int>(deadline.remainingTime()); };
+    QTcpSocket socket;
+    socket.setProxy(QNetworkProxy::NoProxy);
+    socket.connectToHost(QHostAddress::LocalHost, port);
+    if (!socket.waitForConnected(remaining()))
+        return fail(QStringLiteral("Cannot reach the service: %1").arg(socket.errorString()));
+    socket.write(framed(order.document));
+
+    int status = Carried;
+    Framing framing;
+    while (finalAnswers > 0) {
+        if (socket.bytesAvailable() == 0 && !socket.waitForReadyRead(remaining()))
+            return fail(QStringLiteral("No answer: %1").arg(socket.errorString()));
+        const QVector<Frame> frames = framing.take(socket.readAll());
+        for (const Frame& frame : frames) {
+            if (frame.tooLong)
+                return fail(QStringLiteral("The service sent a document that is too long."));
+            const Answer answer = understand(frame.document);
+            if (!order.id.isEmpty() && !answer.orderId.isEmpty() && answer.orderId != order.id)
+                return fail(QStringLiteral("The service answered another order: %1").arg(answer.orderId));
+            if (!answer.reference.isEmpty())
+                say(QStringLiteral("[reference %1] ").arg(answer.reference));
+            say(answer.text);
+            if (answer.verdict == Answer::Unacceptable)
+                return Failed;
+            if (answer.verdict == Answer::Refused)
+                status = Refused;
+            if (answer.verdict != Answer::Acknowledged)
+                --finalAnswers;
+        }
+    }
+    return status;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication app(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("planning_client"));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Sends an order to the planning service and tells what comes back.\n\n"
+                       "  interlink A B           plan the link between two objects\n"
+                       "  cep [DF...]             circular error probable of fixes by direction finders\n"
+                       "  detect [SENSOR...]      detection probability\n"
+                       "  dfcov [DF...]           direction-finding coverage\n"
+                       "  bestsensor [SENSOR...]  best sensor coverage\n"
+                       "  findsites [AREA...]     possible sites in deployment areas\n"
+                       "  version                 ask for the version of the service\n\n"
+                       "No names mean all. Exit status: 0 carried out, 1 not acceptable, 2 no proper conversation."));
+    parser.addHelpOption();
+    const QCommandLineOption portOption(QStringLiteral("port"), QStringLiteral("The service's <port>."),
+                                        QStringLiteral("port"));
+    const QCommandLineOption referenceOption(QStringLiteral("reference"),
+                                             QStringLiteral("Mark the command with <text>, 1 to 50 characters."),
+                                             QStringLiteral("text"), QStringLiteral("1"));
+    const QCommandLineOption areaOption(QStringLiteral("area"),
+                                        QStringLiteral("Area of interest; may be repeated (default: all)."),
+                                        QStringLiteral("name"));
+    const QCommandLineOption gridOption(QStringLiteral("grid"),
+                                        QStringLiteral("Spacing of the result grid: 10, 50, 100, 200, 500 or 1000."),
+                                        QStringLiteral("spacing"));
+    const QCommandLineOption probabilityOption(QStringLiteral("probability"),
+                                               QStringLiteral("Level of the circular error: 50, 66, 75, 90 or 95."),
+                                               QStringLiteral("percent"));
+    const QCommandLineOption emittersOption(QStringLiteral("random-emitters"),
+                                            QStringLiteral("Find sites against <n> emitters on a grid, 0 to 500."),
+                                            QStringLiteral("n"), QStringLiteral("-1"));
+    const QCommandLineOption rawOption(QStringLiteral("raw"),
+                                       QStringLiteral("Send the bytes of <file> as they are, instead of an order."),
+                                       QStringLiteral("file"));
+    const QCommandLineOption answersOption(QStringLiteral("answers"),
+                                           QStringLiteral("With --raw: wait for <n> final answers (default: 1)."),
+                                           QStringLiteral("n"), QStringLiteral("1"));
+    const QCommandLineOption timeoutOption(QStringLiteral("timeout"), QStringLiteral("Wait for at most <seconds>."),
+                                           QStringLiteral("seconds"), QStringLiteral("30"));
+    parser.addOptions({portOption, referenceOption, areaOption, gridOption, probabilityOption, emittersOption,
+                       rawOption, answersOption, timeoutOption});
+    parser.addPositionalArgument(QStringLiteral("kind"), QStringLiteral("The kind of the order, see above."));
+    parser.addPositionalArgument(QStringLiteral("names"), QStringLiteral("Names of objects."),
+                                 QStringLiteral("[names...]"));
+    parser.process(app);
+
+    bool numbersOk[4] = {};
+    const quint16 port = parser.value(portOption).toUShort(&numbersOk[0]);
+    const int seconds = parser.value(timeoutOption).toInt(&numbersOk[1]);
+    const int finalAnswers = parser.value(answersOption).toInt(&numbersOk[2]);
+    Wish wish;
+    wish.names = parser.positionalArguments();
+    wish.kind = wish.names.isEmpty() ? QString() : wish.names.takeFirst();
+    wish.areas = parser.values(areaOption);
+    wish.reference = parser.value(referenceOption);
+    wish.grid = parser.value(gridOption);
+    wish.probability = parser.value(probabilityOption);
+    wish.randomEmitters = parser.value(emittersOption).toInt(&numbersOk[3]);
+    const bool isRaw = parser.isSet(rawOption);
+    for (const bool ok : numbersOk) {
+        if (!ok || seconds <= 0 || isRaw != wish.kind.isEmpty())
+            return fail(parser.helpText());
+    }
+
+    Order order;
+    if (isRaw) {
+        QFile file(parser.value(rawOption));
+        if (!file.open(QIODevice::ReadOnly))
+            return fail(QStringLiteral("Cannot read %1: %2").arg(file.fileName(), file.errorString()));
+        order.document = file.readAll();
+        say(QStringLiteral("Sending %1 as it is.\n").arg(file.fileName()));
+    } else {
+        order = makeOrder(wish);
+        if (!order.problem.isEmpty()) {
+            fail(QStringLiteral("The order is not sent, it is not acceptable:\n%1").arg(order.problem));
+            return Refused;
+        }
+        say(QStringLiteral("Sending order %1: %2 %3\n")
+                .arg(order.id, wish.kind, wish.names.join(QStringLiteral(", ")))
+                .replace(QLatin1String(" \n"), QLatin1String("\n")));
+    }
+    return converse(order, port, finalAnswers, QDeadlineTimer(seconds * 1000LL));
+}

@@ -1,0 +1,165 @@
+#include "programs.h"
+
+#include <QtCore/QDirIterator>
+
+/// What the sample documents' list of expectations says of one file.
+struct Expectation {
+    QString file;
+    int status;
+    QString text;
+};
+
+static QVector<Expectation> expectations()
+{
+    QVector<Expectation> all;
+    const QStringList lines = QString::fromUtf8(sample("EXPECTED.txt")).split(QLatin1Char('\n'));
+    for (const QString& line : lines) {
+        if (line.isEmpty() || line.startsWith(QLatin1Char('#')))
+            continue;
+        static const QRegularExpression form(QStringLiteral("^(\\S+) +([012]) (.+)$"));
+        const QRegularExpressionMatch match = form.match(line);
+        all.append({match.captured(1), match.captured(2).toInt(), match.captured(3)});
+    }
+    return all;
+}
+
+static Run inspect(const QStringList& arguments)
+{
+    return runProgram(INSPECT_PROGRAM, arguments);
+}
+
+class InspectTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void samples_data();
+    void samples();
+    void everySampleIsExpected();
+    void theWorstFileCounts();
+    void noFileIsAnError();
+    void aLoneAttributeMakesAResponse();
+    void rewritesTheDocument();
+    void rewritesIndented();
+    void rewritesWhatIsReadableThoughNotAcceptable();
+};
+
+void InspectTest::samples_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QString>("text");
+    const QVector<Expectation> all = expectations();
+    for (const Expectation& one : all)
+        QTest::newRow(qPrintable(one.file + QStringLiteral(": ") + one.text)) << one.file << one.status << one.text;
+}
+
+void InspectTest::samples()
+{
+    QFETCH(QString, file);
+    QFETCH(int, status);
+    QFETCH(QString, text);
+    QVERIFY2(!file.isEmpty(), "a line of EXPECTED.txt has not the form: file, status, text");
+
+    const Run run = inspect({samplePath(file)});
+
+    QVERIFY2(run.output.contains(text), qPrintable(run.output));
+    QCOMPARE(run.status, status);
+    QCOMPARE(run.errors, QString());
+}
+
+void InspectTest::everySampleIsExpected()
+{
+    QStringList expected;
+    const QVector<Expectation> all = expectations();
+    for (const Expectation& one : all)
+        expected.append(one.file);
+    const QDir folder(QStringLiteral(DOCUMENTS_FOLDER));
+    int samples = 0;
+    QDirIterator files(folder.path(), QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString file = folder.relativeFilePath(files.next());
+        if (file == QLatin1String("EXPECTED.txt"))
+            continue;
+        QVERIFY2(expected.contains(file), qPrintable(file));
+        ++samples;
+    }
+    QVERIFY(samples > 40);
+}
+
+void InspectTest::theWorstFileCounts()
+{
+    const QString good = samplePath(QStringLiteral("good/calculate-cep.xml"));
+    const QString bad = samplePath(QStringLiteral("bad/cep-grid-25.xml"));
+    const QString unreadable = samplePath(QStringLiteral("unreadable/not-xml.txt"));
+    QCOMPARE(inspect({good, good}).status, 0);
+    QCOMPARE(inspect({good, bad, good}).status, 1);
+    const Run run = inspect({unreadable, bad, good});
+    QCOMPARE(run.status, 2);
+    QVERIFY(run.output.contains(good + QStringLiteral(": command document, acceptable")));
+}
+
+void InspectTest::noFileIsAnError()
+{
+    const Run run = inspect({});
+    QCOMPARE(run.status, 2);
+    QVERIFY(run.errors.contains(QLatin1String("Usage")));
+}
+
+void InspectTest::aLoneAttributeMakesAResponse()
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("document.xml"));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("<Anything final='true'><ORDER_DEF/></Anything>");
+    file.close();
+    const Run run = inspect({path});
+    QVERIFY2(run.output.contains(QLatin1String("document.xml: response, reading stops")), qPrintable(run.output));
+    QCOMPARE(run.status, 1);
+}
+
+void InspectTest::rewritesTheDocument()
+{
+    const QString path = samplePath(QStringLiteral("good/query-version.xml"));
+    const Run run = inspect({QStringLiteral("--rewrite"), path});
+    QCOMPARE(run.status, 0);
+    QCOMPARE(run.output,
+             QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?><Commands><ORDER_DEF>"
+                            "<ORDER_ID>ARV240305140709042</ORDER_ID><ORDER_SENDER>planning-desk-2</ORDER_SENDER>"
+                            "</ORDER_DEF><Administrative><QueryVersion/><Reference>hello</Reference>"
+                            "</Administrative></Commands>\n"));
+    QCOMPARE(run.errors, path + QStringLiteral(": command document, acceptable\n"));
+}
+
+void InspectTest::rewritesIndented()
+{
+    const Run run = inspect({QStringLiteral("--rewrite"), QStringLiteral("--indent"),
+                             samplePath(QStringLiteral("good/response-version.xml"))});
+    QCOMPARE(run.status, 0);
+    QCOMPARE(run.output,
+             QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                            "<Response type=\"automatic\" final=\"true\" timestamp=\"2024-03-05T14:07:12\">\n"
+                            "    <ORDER_DEF>\n"
+                            "        <ORDER_ID>ARV240305140709042</ORDER_ID>\n"
+                            "        <ORDER_SENDER>planning-desk-2</ORDER_SENDER>\n"
+                            "    </ORDER_DEF>\n"
+                            "    <Automatic status=\"ack\">\n"
+                            "        <CommandReference>hello</CommandReference>\n"
+                            "        <ArvVersion>3.2</ArvVersion>\n"
+                            "    </Automatic>\n"
+                            "</Response>\n"));
+}
+
+void InspectTest::rewritesWhatIsReadableThoughNotAcceptable()
+{
+    const QString option = QStringLiteral("--rewrite");
+    const Run judged = inspect({option, samplePath(QStringLiteral("bad/envelope-with-short-id.xml"))});
+    QCOMPARE(judged.status, 1);
+    QVERIFY(judged.output.contains(QLatin1String("<ORDER_ID></ORDER_ID>")));
+    const Run unread = inspect({option, samplePath(QStringLiteral("bad/cep-grid-25.xml"))});
+    QCOMPARE(unread.status, 1);
+    QCOMPARE(unread.output, QString());
+}
+
+QTEST_GUILESS_MAIN(InspectTest)
+#include "inspect_test.moc"
