@@ -11,6 +11,7 @@
 #include <QtNetwork/QNetworkProxy>
 #include <QtNetwork/QTcpSocket>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace {
@@ -34,8 +35,26 @@ int fail(const QString& text)
     return Failed;
 }
 
-/// Sends \a order and tells the answers, until \a finalAnswers of them were final. Raw bytes have no
-/// id, and take every answer.
+/// Tells \a answer to \a order; the status that the program has if this was the last one.
+int tell(const Answer& answer, const Order& order)
+{
+    // Raw bytes have no id, and take every answer.
+    if (!order.id.isEmpty() && !answer.orderId.isEmpty() && answer.orderId != order.id)
+        return fail(QStringLiteral("The service answered another order: %1").arg(answer.orderId));
+    if (!answer.reference.isEmpty())
+        say(QStringLiteral("[reference %1] ").arg(answer.reference));
+    say(answer.text);
+    switch (answer.verdict) {
+    case Answer::Unacceptable:
+        return Failed;
+    case Answer::Refused:
+        return Refused;
+    default:
+        return Carried;
+    }
+}
+
+/// Sends \a order and tells the answers, until \a finalAnswers of them were final.
 int converse(const Order& order, quint16 port, int finalAnswers, QDeadlineTimer deadline)
 {
     const auto remaining = [&deadline] { return static_cast<int>(deadline.remainingTime()); };
@@ -56,15 +75,9 @@ int converse(const Order& order, quint16 port, int finalAnswers, QDeadlineTimer 
             if (frame.tooLong)
                 return fail(QStringLiteral("The service sent a document that is too long."));
             const Answer answer = understand(frame.document);
-            if (!order.id.isEmpty() && !answer.orderId.isEmpty() && answer.orderId != order.id)
-                return fail(QStringLiteral("The service answered another order: %1").arg(answer.orderId));
-            if (!answer.reference.isEmpty())
-                say(QStringLiteral("[reference %1] ").arg(answer.reference));
-            say(answer.text);
-            if (answer.verdict == Answer::Unacceptable)
+            status = std::max(status, tell(answer, order));
+            if (status == Failed)
                 return Failed;
-            if (answer.verdict == Answer::Refused)
-                status = Refused;
             if (answer.verdict != Answer::Acknowledged)
                 --finalAnswers;
         }

@@ -108,7 +108,7 @@ void Service::stop()
     quitWhenAlone();
 }
 
-void Service::quitWhenAlone()
+void Service::quitWhenAlone() const
 {
     if (m_stopping && m_clientCount == 0)
         QCoreApplication::quit();

@@ -40,7 +40,7 @@ private:
     void welcomeClients();
     void serve(Client& client);
     void answer(const Frame& frame, Client& client);
-    void quitWhenAlone();
+    void quitWhenAlone() const;
 
     const Settings m_settings;
     int m_clientCount = 0;

@@ -105,7 +105,7 @@ protected:
     bool supportsVersion() const;
     /// Makes the version "1.0" again.
     void restoreVersion();
-    /// Restores the version, then takes that of the start tag if it has one.
+    /// Takes the version of the start tag if it has one.
     void readVersion(ElementReader& in);
     /// Raises an error on the reader if the version is not supported.
     void refuseOtherVersions(ElementReader& in) const;

@@ -1,0 +1,767 @@
+#include "support/elementtest.h"
+
+#include <arvxml/responseroot.h>
+
+#include <QtCore/QRegularExpression>
+
+#include <type_traits>
+#include <utility>
+
+using namespace ArvXml;
+
+namespace {
+
+/// A document that is refused, and the error.
+struct Refusal {
+    QString xml;
+    QString error;
+};
+
+/// "|" in \a marked shows up to where the document has been read when \a message is raised.
+Refusal refusal(const QString& marked, const QString& className, const QString& message)
+{
+    const int mark = marked.indexOf(QLatin1Char('|'));
+    const QString before = marked.left(mark);
+    const int line = before.count(QLatin1Char('\n')) + 1;
+    const int column = mark - (before.lastIndexOf(QLatin1Char('\n')) + 1);
+    return {before + marked.mid(mark + 1),
+            QStringLiteral("in %1 (line %2, column %3): %4.")
+                .arg(className, QString::number(line), QString::number(column), message)};
+}
+
+/// Shows the error text that is kept in the element.
+struct Probe : XmlRespRoot {
+    using XmlElementBase::mySyntaxError;
+};
+
+QString text(const char* latin1)
+{
+    return QString::fromLatin1(latin1);
+}
+
+XmlOrderDef orderDef(const QString& sender)
+{
+    XmlOrderDef order;
+    order.setOrderId(QStringLiteral("ARV240305140709042"));
+    order.setOrderSender(sender);
+    return order;
+}
+
+/// A valid response; without a reference it is not.
+XmlAutoRespType autoResp(const QString& reference)
+{
+    XmlReferenceType element;
+    element.setReference(reference);
+    XmlAutoRespType response;
+    response.setStatus(XmlAutoRespType::StatusAck);
+    response.setReference(element);
+    response.setArvVersion(QStringLiteral("7.1"));
+    return response;
+}
+
+QDateTime someTime()
+{
+    return QDateTime(QDate(2024, 3, 5), QTime(14, 7, 9));
+}
+
+/// Everything that \a root holds.
+QString held(const XmlRespRoot& root)
+{
+    return QStringList({QString::number(root.type()), QString::number(root.isFinal()),
+                        root.timestamp().toString(Qt::ISODate),
+                        root.orderDef() ? root.orderDef()->orderSender() : QStringLiteral("-"),
+                        root.autoResp() ? root.autoResp()->reference().reference() : QStringLiteral("-")})
+        .join(QLatin1Char(';'));
+}
+
+QString written(const XmlRespRoot& root)
+{
+    return ElementTest::written(root, QStringLiteral("R"));
+}
+
+const char orderXml[] =
+    "<ORDER_DEF><ORDER_ID>ARV240305140709042</ORDER_ID><ORDER_SENDER>host</ORDER_SENDER></ORDER_DEF>";
+const char autoXml[] = "<Automatic status=\"ack\"><CommandReference>ref</CommandReference><ArvVersion>7.1</ArvVersion>"
+                       "</Automatic>";
+const char startXml[] = "<R type=\"automatic\" final=\"true\" timestamp=\"2024-03-05T14:07:09\">";
+
+QString document(const char* content)
+{
+    return text(startXml)
+        + text(content)
+              .replace(QLatin1String("{O}"), QLatin1String(orderXml))
+              .replace(QLatin1String("{A}"), QLatin1String(autoXml))
+        + text("</R>");
+}
+
+} // namespace
+
+static_assert(std::is_base_of_v<XmlElementBase, XmlRespRoot>);
+static_assert(std::is_same_v<decltype(std::declval<XmlRespRoot&>().timestamp()), const QDateTime&>);
+static_assert(std::is_same_v<decltype(std::declval<XmlRespRoot&>().orderDef()), const XmlOrderDef*>);
+static_assert(std::is_same_v<decltype(std::declval<XmlRespRoot&>().autoResp()), const XmlAutoRespType*>);
+
+class ResponserootTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void newObject();
+    void accessors();
+    void childrenAreCopiedAndAssigned();
+    void copies_data();
+    void copies();
+    void selfAssignment();
+    void errorTextIsCopiedAndReset();
+    void written_data();
+    void written();
+    void newObjectIsNotReadBack();
+    void typeRead_data();
+    void typeRead();
+    void finalRead_data();
+    void finalRead();
+    void timestampRead_data();
+    void timestampRead();
+    void severalWrongAttributes_data();
+    void severalWrongAttributes();
+    void children_data();
+    void children();
+    void refused_data();
+    void refused();
+    void readingIntoUsedObject();
+    void laterOrderReplacesEarlierOne();
+    void useAfterFailedRead();
+    void wrongPosition_data();
+    void wrongPosition();
+    void combinations_data();
+    void combinations();
+    void reset();
+};
+
+void ResponserootTest::newObject()
+{
+    const QDateTime before = QDateTime::currentDateTime();
+    const XmlRespRoot root;
+    const QDateTime after = QDateTime::currentDateTime();
+    QCOMPARE(root.type(), XmlRespRoot::RespUndefined);
+    QVERIFY(root.isFinal());
+    QVERIFY(root.timestamp() >= before);
+    QVERIFY(root.timestamp() <= after);
+    QCOMPARE(root.timestamp().timeSpec(), Qt::LocalTime);
+    QVERIFY(!root.hasOrderDef());
+    QVERIFY(root.orderDef() == nullptr);
+    QVERIFY(!root.hasAutoResp());
+    QVERIFY(root.autoResp() == nullptr);
+    QVERIFY(!root.isValid());
+}
+
+void ResponserootTest::accessors()
+{
+    QCOMPARE(static_cast<int>(XmlRespRoot::RespUndefined), 0);
+    QCOMPARE(static_cast<int>(XmlRespRoot::RespInteractive), 1);
+    QCOMPARE(static_cast<int>(XmlRespRoot::RespAutomatic), 2);
+
+    XmlRespRoot root;
+    root.setType(XmlRespRoot::RespInteractive);
+    QCOMPARE(root.type(), XmlRespRoot::RespInteractive);
+    root.setFinal(false);
+    QVERIFY(!root.isFinal());
+    root.setFinal(true);
+    QVERIFY(root.isFinal());
+    root.setTimestamp(someTime());
+    QCOMPARE(root.timestamp(), someTime());
+    root.setTimestamp(QDateTime());
+    QVERIFY(!root.timestamp().isValid());
+    root.setOrderDef(orderDef(QStringLiteral("host")));
+    QVERIFY(root.hasOrderDef());
+    QVERIFY(!root.hasAutoResp());
+    root.setAutoResp(autoResp(QStringLiteral("ref")));
+    QVERIFY(root.hasAutoResp());
+    QCOMPARE(held(root), text("1;1;;host;ref"));
+}
+
+void ResponserootTest::childrenAreCopiedAndAssigned()
+{
+    XmlRespRoot root;
+    XmlOrderDef order = orderDef(QStringLiteral("first"));
+    XmlAutoRespType response = autoResp(QStringLiteral("first"));
+    root.setTimestamp(someTime());
+    root.setOrderDef(order);
+    root.setAutoResp(response);
+    const XmlOrderDef* const heldOrder = root.orderDef();
+    const XmlAutoRespType* const heldResponse = root.autoResp();
+    order.setOrderSender(QStringLiteral("second"));
+    response.setReference(autoResp(QStringLiteral("second")).reference());
+    QCOMPARE(held(root), text("0;1;2024-03-05T14:07:09;first;first"));
+
+    root.setOrderDef(order);
+    root.setAutoResp(response);
+    QCOMPARE(root.orderDef(), heldOrder);
+    QCOMPARE(root.autoResp(), heldResponse);
+    root.setOrderDef(*root.orderDef());
+    root.setAutoResp(*root.autoResp());
+    QCOMPARE(held(root), text("0;1;2024-03-05T14:07:09;second;second"));
+}
+
+void ResponserootTest::copies_data()
+{
+    QTest::addColumn<bool>("sourceOrder");
+    QTest::addColumn<bool>("sourceResponse");
+    QTest::addColumn<bool>("targetOrder");
+    QTest::addColumn<bool>("targetResponse");
+
+    for (int i = 0; i < 16; ++i) {
+        QTest::addRow("source with order %d, response %d; target with order %d, response %d", i & 1, (i >> 1) & 1,
+                      (i >> 2) & 1, i >> 3)
+            << ((i & 1) != 0) << ((i & 2) != 0) << ((i & 4) != 0) << ((i & 8) != 0);
+    }
+}
+
+void ResponserootTest::copies()
+{
+    QFETCH(bool, sourceOrder);
+    QFETCH(bool, sourceResponse);
+    QFETCH(bool, targetOrder);
+    QFETCH(bool, targetResponse);
+
+    XmlRespRoot source;
+    source.setType(XmlRespRoot::RespAutomatic);
+    source.setFinal(false);
+    source.setTimestamp(someTime());
+    if (sourceOrder)
+        source.setOrderDef(orderDef(QStringLiteral("source")));
+    if (sourceResponse)
+        source.setAutoResp(autoResp(QStringLiteral("source")));
+    XmlRespRoot target;
+    if (targetOrder)
+        target.setOrderDef(orderDef(QStringLiteral("target")));
+    if (targetResponse)
+        target.setAutoResp(autoResp(QStringLiteral("target")));
+
+    const XmlRespRoot copy(source);
+    target = source;
+    QVERIFY(!sourceOrder || (copy.orderDef() != source.orderDef() && target.orderDef() != source.orderDef()));
+    QVERIFY(!sourceResponse || (copy.autoResp() != source.autoResp() && target.autoResp() != source.autoResp()));
+    source.reset();
+    const QString expected =
+        QStringLiteral("2;0;2024-03-05T14:07:09;%1;%2")
+            .arg(sourceOrder ? text("source") : text("-"), sourceResponse ? text("source") : text("-"));
+    QCOMPARE(held(copy), expected);
+    QCOMPARE(held(target), expected);
+}
+
+void ResponserootTest::selfAssignment()
+{
+    XmlRespRoot root;
+    root.setType(XmlRespRoot::RespAutomatic);
+    root.setFinal(false);
+    root.setTimestamp(someTime());
+    root.setOrderDef(orderDef(QStringLiteral("host")));
+    root.setAutoResp(autoResp(QStringLiteral("ref")));
+    const XmlRespRoot& self = root;
+    root = self;
+    QCOMPARE(held(root), text("2;0;2024-03-05T14:07:09;host;ref"));
+}
+
+void ResponserootTest::errorTextIsCopiedAndReset()
+{
+    Probe source;
+    source.syntaxError();
+    const QString error = text("+++ in XmlRespRoot Begin:\nType not defined.\n--- in XmlRespRoot End");
+    Probe copy(source);
+    QCOMPARE(copy.mySyntaxError(), error);
+    Probe assigned;
+    assigned = source;
+    QCOMPARE(assigned.mySyntaxError(), error);
+    assigned.reset();
+    QCOMPARE(assigned.mySyntaxError(), QString());
+}
+
+void ResponserootTest::written_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<bool>("isFinal");
+    QTest::addColumn<QDateTime>("time");
+    QTest::addColumn<QString>("children");
+    QTest::addColumn<QString>("xml");
+
+    const QDate day(2024, 3, 5);
+    const QTime time(14, 7, 9, 999);
+    QTest::newRow("undefined") << 0 << true << QDateTime(day, time) << QString()
+                               << text("<R type=\"UNDEFINED\" final=\"true\" timestamp=\"2024-03-05T14:07:09\"/>");
+    QTest::newRow("interactive") << 1 << false << QDateTime(day, time, Qt::UTC) << QString()
+                                 << text(
+                                        "<R type=\"interactive\" final=\"false\" timestamp=\"2024-03-05T14:07:09Z\"/>");
+    QTest::newRow("automatic") << 2 << true << QDateTime(day, time, Qt::OffsetFromUTC, -3600) << QString()
+                               << text(
+                                      "<R type=\"automatic\" final=\"true\" timestamp=\"2024-03-05T14:07:09-01:00\"/>");
+    QTest::newRow("a type above the known ones, no time")
+        << 3 << true << QDateTime() << QString() << text("<R type=\"UNDEFINED\" final=\"true\" timestamp=\"\"/>");
+    QTest::newRow("a type below the known ones, no time")
+        << -1 << true << QDateTime() << QString() << text("<R type=\"UNDEFINED\" final=\"true\" timestamp=\"\"/>");
+    const QString start = text("<R type=\"automatic\" final=\"false\" timestamp=\"2024-03-05T14:07:09\">");
+    QTest::newRow("an order") << 2 << false << QDateTime(day, time) << text("O")
+                              << start + text(orderXml) + text("</R>");
+    QTest::newRow("a response") << 2 << false << QDateTime(day, time) << text("A")
+                                << start + text(autoXml) + text("</R>");
+    QTest::newRow("the order comes first")
+        << 2 << false << QDateTime(day, time) << text("AO") << start + text(orderXml) + text(autoXml) + text("</R>");
+    QTest::newRow("a response of another type")
+        << 1 << false << QDateTime(day, time) << text("A")
+        << text("<R type=\"interactive\" final=\"false\" timestamp=\"2024-03-05T14:07:09\">") + text(autoXml)
+            + text("</R>");
+}
+
+void ResponserootTest::written()
+{
+    QFETCH(int, type);
+    QFETCH(bool, isFinal);
+    QFETCH(QDateTime, time);
+    QFETCH(QString, children);
+    QFETCH(QString, xml);
+
+    XmlRespRoot root;
+    root.setType(static_cast<XmlRespRoot::RespType>(type));
+    root.setFinal(isFinal);
+    root.setTimestamp(time);
+    if (children.contains(QLatin1Char('A')))
+        root.setAutoResp(autoResp(QStringLiteral("ref")));
+    if (children.contains(QLatin1Char('O')))
+        root.setOrderDef(orderDef(QStringLiteral("host")));
+    QCOMPARE(::written(root), xml);
+}
+
+void ResponserootTest::newObjectIsNotReadBack()
+{
+    const XmlRespRoot root;
+    const QString xml = ElementTest::written(root, QStringLiteral("Response"));
+    const QRegularExpression form(text("^<Response type=\"UNDEFINED\" final=\"true\" "
+                                       "timestamp=\"(\\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\d)\"/>$"));
+    const QRegularExpressionMatch match = form.match(xml);
+    QVERIFY(match.hasMatch());
+    QCOMPARE(match.captured(1), root.timestamp().toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss")));
+
+    XmlRespRoot other;
+    QCOMPARE(ElementTest::readError(other, xml),
+             text("in XmlRespRoot (line 1, column 73): Illegal attribute value in \"type\"."));
+}
+
+void ResponserootTest::typeRead_data()
+{
+    QTest::addColumn<QString>("attribute");
+    QTest::addColumn<int>("type");
+
+    QTest::newRow("interactive") << text("type=\"interactive\"") << 1;
+    QTest::newRow("automatic") << text("type=\"automatic\"") << 2;
+    for (const char* wrong :
+         {"Automatic", "AUTOMATIC", "Interactive", " automatic", "automatic ", "UNDEFINED", "", "2"})
+        QTest::addRow("'%s' is refused", wrong) << QStringLiteral("type=\"%1\"").arg(text(wrong)) << 0;
+    QTest::newRow("a missing attribute is refused") << QString() << 0;
+    QTest::newRow("the case of the name counts") << text("Type=\"automatic\"") << 0;
+}
+
+void ResponserootTest::typeRead()
+{
+    QFETCH(QString, attribute);
+    QFETCH(int, type);
+
+    for (const auto before : {XmlRespRoot::RespInteractive, XmlRespRoot::RespAutomatic}) {
+        XmlRespRoot root;
+        root.setType(before);
+        const Refusal refused = refusal(
+            QStringLiteral("\n  <R %1\n  final=\"false\" timestamp=\"2024-03-05T14:07:09\">|</R>").arg(attribute),
+            text("XmlRespRoot"), text("Illegal attribute value in \"type\""));
+        QCOMPARE(ElementTest::readError(root, refused.xml), type == 0 ? refused.error : QString());
+        QCOMPARE(held(root), QString::number(type) + text(";0;2024-03-05T14:07:09;-;-"));
+    }
+}
+
+void ResponserootTest::finalRead_data()
+{
+    QTest::addColumn<QString>("attribute");
+    QTest::addColumn<QString>("read"); ///< empty for an error
+
+    for (const char* yes : {"true", "TRUE", "True", "tRuE", "1"})
+        QTest::addRow("%s means yes", yes) << QStringLiteral("final=\"%1\"").arg(text(yes)) << text("true");
+    for (const char* no : {"false", "FALSE", "False", "fAlSe", "0"})
+        QTest::addRow("%s means no", no) << QStringLiteral("final=\"%1\"").arg(text(no)) << text("false");
+    for (const char* wrong : {"yes", "no", "", "2", "10", "01", "-1", " true", "true ", "t", "truefalse"})
+        QTest::addRow("'%s' is refused", wrong) << QStringLiteral("final=\"%1\"").arg(text(wrong)) << QString();
+    QTest::newRow("a missing attribute is refused") << QString() << QString();
+    QTest::newRow("the case of the name counts") << text("Final=\"true\"") << QString();
+}
+
+void ResponserootTest::finalRead()
+{
+    QFETCH(QString, attribute);
+    QFETCH(QString, read);
+
+    for (const bool before : {true, false}) {
+        XmlRespRoot root;
+        root.setFinal(before);
+        const Refusal refused =
+            refusal(QStringLiteral("<R type=\"automatic\"\n%1 timestamp=\"2024-03-05T14:07:09\">|</R>").arg(attribute),
+                    text("XmlRespRoot"), text("Illegal attribute value in \"final\""));
+        QCOMPARE(ElementTest::readError(root, refused.xml), read.isEmpty() ? refused.error : QString());
+        QCOMPARE(root.isFinal(), read.isEmpty() ? before : read == QLatin1String("true"));
+        QCOMPARE(root.type(), XmlRespRoot::RespAutomatic);
+        QCOMPARE(root.timestamp(), someTime());
+    }
+}
+
+void ResponserootTest::timestampRead_data()
+{
+    QTest::addColumn<QString>("attribute");
+    QTest::addColumn<QDateTime>("time");
+
+    const QDate day(2024, 3, 5);
+    const QTime time(14, 7, 9);
+    QTest::newRow("local") << text("timestamp=\"2024-03-05T14:07:09\"") << QDateTime(day, time);
+    QTest::newRow("with a fraction") << text("timestamp=\"2024-03-05T14:07:09.042\"")
+                                     << QDateTime(day, QTime(14, 7, 9, 42));
+    QTest::newRow("UTC") << text("timestamp=\"2024-03-05T14:07:09Z\"") << QDateTime(day, time, Qt::UTC);
+    QTest::newRow("with an offset") << text("timestamp=\"2024-03-05T14:07:09-01:00\"")
+                                    << QDateTime(day, time, Qt::OffsetFromUTC, -3600);
+    for (const char* wrong : {"now", "", "05.03.2024 14:07:09", "2024-02-30T14:07:09", "2024-03-05T25:07:09"})
+        QTest::addRow("'%s' is refused", wrong) << QStringLiteral("timestamp=\"%1\"").arg(text(wrong)) << QDateTime();
+    QTest::newRow("a missing attribute is refused") << QString() << QDateTime();
+    QTest::newRow("the case of the name counts") << text("Timestamp=\"2024-03-05T14:07:09\"") << QDateTime();
+}
+
+void ResponserootTest::timestampRead()
+{
+    QFETCH(QString, attribute);
+    QFETCH(QDateTime, time);
+
+    XmlRespRoot root;
+    const Refusal refused = refusal(QStringLiteral("<R type=\"automatic\" final=\"false\"\n\n %1>|</R>").arg(attribute),
+                                    text("XmlRespRoot"), text("Illegal attribute value in \"timestamp\""));
+    QCOMPARE(ElementTest::readError(root, refused.xml), time.isValid() ? QString() : refused.error);
+    QCOMPARE(root.timestamp().isValid(), time.isValid());
+    if (time.isValid()) {
+        QCOMPARE(root.timestamp(), time);
+        QCOMPARE(root.timestamp().timeSpec(), time.timeSpec());
+    }
+    QVERIFY(!root.isFinal());
+}
+
+void ResponserootTest::severalWrongAttributes_data()
+{
+    QTest::addColumn<QString>("attributes");
+    QTest::addColumn<QString>("name");
+
+    QTest::newRow("all missing") << QString() << text("timestamp");
+    QTest::newRow("type and final") << text(" timestamp=\"2024-03-05T14:07:09\" final=\"no\" type=\"no\"")
+                                    << text("final");
+    QTest::newRow("type and timestamp") << text(" timestamp=\"no\" final=\"true\" type=\"no\"") << text("timestamp");
+    QTest::newRow("final and timestamp") << text(" timestamp=\"no\" final=\"no\" type=\"automatic\"")
+                                         << text("timestamp");
+}
+
+void ResponserootTest::severalWrongAttributes()
+{
+    QFETCH(QString, attributes);
+    QFETCH(QString, name);
+
+    // The last one looked at is reported; the children are not read
+    XmlRespRoot root;
+    const Refusal refused = refusal(QStringLiteral("<R%1>|%2</R>").arg(attributes, text(orderXml)), text("XmlRespRoot"),
+                                    QStringLiteral("Illegal attribute value in \"%1\"").arg(name));
+    QCOMPARE(ElementTest::readError(root, refused.xml), refused.error);
+    QVERIFY(!root.hasOrderDef());
+}
+
+void ResponserootTest::children_data()
+{
+    QTest::addColumn<QString>("xml");
+    QTest::addColumn<QString>("read");
+
+    const auto row = [](const char* name, const char* content, const char* read) {
+        QTest::newRow(name) << document(content) << text("2;1;2024-03-05T14:07:09;") + text(read);
+    };
+    row("none", "", "-;-");
+    row("an order", "{O}", "host;-");
+    row("a response", "{A}", "-;ref");
+    row("an order and a response", "{O}{A}", "host;ref");
+    row("an order after the response", "{A}{O}", "host;ref");
+    row("an order repeated", "{O}{O}", "host;-");
+    row("orders before and after the response", "{O}{O}{A}{O}{O}", "host;ref");
+    row("other tokens are skipped", "text<!-- comment --><?pi data?>\n{O} 5 {A}\n", "host;ref");
+}
+
+void ResponserootTest::children()
+{
+    QFETCH(QString, xml);
+    QFETCH(QString, read);
+
+    const auto root = ElementTest::readFrom<XmlRespRoot>(xml);
+    QCOMPARE(held(root), read);
+
+    QString expected = text(startXml);
+    if (root.hasOrderDef())
+        expected += text(orderXml);
+    if (root.hasAutoResp())
+        expected += text(autoXml);
+    if (root.hasOrderDef() || root.hasAutoResp())
+        QCOMPARE(::written(root), expected + text("</R>"));
+
+    // The type is not compared with what follows
+    XmlRespRoot interactive;
+    QCOMPARE(ElementTest::readError(interactive, QString(xml).replace(text("automatic"), text("interactive"))),
+             QString());
+    QCOMPARE(held(interactive), QString(read).replace(0, 1, QLatin1Char('1')));
+}
+
+void ResponserootTest::refused_data()
+{
+    QTest::addColumn<QString>("marked");
+    QTest::addColumn<QString>("className");
+    QTest::addColumn<QString>("message");
+
+    const auto row = [](const char* name, const char* content, const char* className, const char* message) {
+        QTest::newRow(name) << document(content) << text(className) << text(message);
+    };
+    const char own[] = "XmlRespRoot";
+    row("a second response", "\n{A}\n  <Automatic status=\"ack\">|</Automatic>", own,
+        "Unexpected token \"StartElement\": Automatic");
+    row("a second response after an order", "\n{A}{O}\n<Automatic>|</Automatic>", own,
+        "Unexpected token \"StartElement\": Automatic");
+    row("an interactive response after an automatic one", "\n{A}\n <Interactive>|</Interactive>", own,
+        "Unexpected token \"StartElement\": Interactive");
+    row("another element", "<Other>|</Other>", own, "Unexpected token \"StartElement\": Other");
+    row("another element after the children", "{O}{A}\n\n<Other>|</Other>", own,
+        "Unexpected token \"StartElement\": Other");
+    row("the case of a tag counts", "\n<automatic>|</automatic>", own, "Unexpected token \"StartElement\": automatic");
+    row("the case of the order's tag counts", "\n<order_def>|</order_def>", own,
+        "Unexpected token \"StartElement\": order_def");
+    row("the element in itself", "\n<R>|</R>", own, "Unexpected token \"StartElement\": R");
+    row("an order without an id", "\n<ORDER_DEF><ORDER_SENDER>host</ORDER_SENDER>\n</ORDER_DEF>|", "XmlOrderDef",
+        "Unexpected token \"EndElement\": ORDER_DEF");
+    row("a response without a status", "\n <Automatic>|</Automatic>", "XmlAutoRespType",
+        "Illegal attribute value in \"status\"");
+    row("a response without a reference", "\n<Automatic status=\"ack\">\n</Automatic>|", "XmlAutoRespType",
+        "Unexpected token \"EndElement\": Automatic");
+    row("a grid result",
+        "<Automatic status=\"ack\">\n<CommandReference>r</CommandReference>\n<GridResult type=\"FindSites\">\n"
+        "<FindPossibleSites>\n<Parameter><DeploymentAreas><All/></DeploymentAreas></Parameter>|"
+        "<ScreenshotFilename>f</ScreenshotFilename></FindPossibleSites></GridResult></Automatic>",
+        "XmlFindSitesType", "Unexpected token \"EndElement\": Parameter");
+
+    QTest::newRow("another end tag")
+        << document("\n{O}{A}\n").replace(text("<R "), text("<Other ")).replace(text("</R>"), text("</Other>|"))
+        << text(own) << text("Unexpected token \"EndElement\": Other");
+}
+
+void ResponserootTest::refused()
+{
+    QFETCH(QString, marked);
+    QFETCH(QString, className);
+    QFETCH(QString, message);
+
+    const Refusal refused = refusal(marked, className, message);
+    QXmlStreamReader reader(refused.xml);
+    reader.readNextStartElement();
+    XmlRespRoot root;
+    root.processXml(reader, QStringLiteral("R"));
+    QCOMPARE(reader.errorString(), refused.error);
+}
+
+void ResponserootTest::readingIntoUsedObject()
+{
+    XmlRespRoot root;
+    root.setType(XmlRespRoot::RespInteractive);
+    root.setFinal(false);
+    root.setOrderDef(orderDef(QStringLiteral("old")));
+    XmlAutoRespType old = autoResp(QStringLiteral("old"));
+    old.setErrorMessage(QStringLiteral("old"));
+    root.setAutoResp(old);
+
+    // What the document does not mention stays
+    QCOMPARE(ElementTest::readError(root, document("")), QString());
+    QCOMPARE(held(root), text("2;1;2024-03-05T14:07:09;old;old"));
+    QVERIFY(root.autoResp()->hasErrorMessage());
+
+    // A child is replaced as a whole; one response in each reading
+    QCOMPARE(ElementTest::readError(root, document("{A}")), QString());
+    QCOMPARE(held(root), text("2;1;2024-03-05T14:07:09;old;ref"));
+    QVERIFY(!root.autoResp()->hasErrorMessage());
+    QCOMPARE(ElementTest::readError(root, document("{O}{A}")), QString());
+    QCOMPARE(held(root), text("2;1;2024-03-05T14:07:09;host;ref"));
+}
+
+void ResponserootTest::laterOrderReplacesEarlierOne()
+{
+    // An id of another form and an empty sender are dropped: nothing of the first order may show
+    const auto root = ElementTest::readFrom<XmlRespRoot>(
+        document("{O}<ORDER_DEF><ORDER_ID>ARV12345</ORDER_ID><ORDER_SENDER></ORDER_SENDER></ORDER_DEF>"));
+    QVERIFY(root.hasOrderDef());
+    QCOMPARE(root.orderDef()->orderId(), QString());
+    QCOMPARE(root.orderDef()->orderSender(), QString());
+}
+
+void ResponserootTest::useAfterFailedRead()
+{
+    XmlRespRoot root;
+    root.setAutoResp(autoResp(QStringLiteral("old")));
+    QCOMPARE(ElementTest::readError(root,
+                                    document("{O}\n<Automatic status=\"fault\">\n<ArvVersion>8</ArvVersion>"
+                                             "</Automatic>")),
+             text("in XmlAutoRespType (line 3, column 38): Unexpected token \"EndElement\": Automatic."));
+    QCOMPARE(held(root), text("2;1;2024-03-05T14:07:09;host;"));
+    QCOMPARE(root.autoResp()->arvVersion(), text("8"));
+    QVERIFY(!root.isValid());
+    QCOMPARE(root.syntaxError(),
+             text("+++ in XmlRespRoot Begin:\n"
+                  "+++ in XmlAutoRespType Begin:\n"
+                  "+++ in XmlreferenceType Begin:\n"
+                  "String too short (min. 1)\n"
+                  "--- in XmlreferenceType End\n"
+                  "Must have status 'ack'\n"
+                  "--- in XmlAutoRespType End\n"
+                  "--- in XmlRespRoot End"));
+    QCOMPARE(held(XmlRespRoot(root)), text("2;1;2024-03-05T14:07:09;host;"));
+    QCOMPARE(::written(root),
+             text(startXml) + text(orderXml)
+                 + text("<Automatic status=\"fault\"><CommandReference></CommandReference><ArvVersion>8</ArvVersion>"
+                        "</Automatic></R>"));
+    QCOMPARE(ElementTest::readError(root, document("{A}")), QString());
+    QVERIFY(root.isValid());
+    root.reset();
+    QVERIFY(!root.hasOrderDef());
+
+    QXmlStreamReader broken(text(startXml) + text("<ORDER_DEF></R>"));
+    broken.readNextStartElement();
+    root.processXml(broken, QStringLiteral("R"));
+    QCOMPARE(broken.error(), QXmlStreamReader::NotWellFormedError); // the reader's own, not replaced
+    QVERIFY(!broken.errorString().startsWith(QLatin1String("in ")));
+    QCOMPARE(ElementTest::readError(root, text(startXml)), text("Premature end of document."));
+}
+
+void ResponserootTest::wrongPosition_data()
+{
+    QTest::addColumn<int>("tokens");
+    QTest::addColumn<QString>("place");
+
+    QTest::newRow("before the first token") << 0 << text("line 1, column 0");
+    QTest::newRow("on the start of the document") << 1 << text("line 1, column 21");
+    QTest::newRow("on characters") << 3 << text("line 2, column 25");
+    QTest::newRow("on a comment") << 4 << text("line 2, column 32");
+    QTest::newRow("on an end tag") << 5 << text("line 2, column 36");
+    QTest::newRow("at the end of the document") << 6 << text("line 2, column 36");
+}
+
+void ResponserootTest::wrongPosition()
+{
+    QFETCH(int, tokens);
+    QFETCH(QString, place);
+
+    QXmlStreamReader reader(text("<?xml version=\"1.0\"?>\n<R type=\"automatic\">text<!-- --></R>"));
+    for (int i = 0; i < tokens; ++i)
+        reader.readNext();
+    XmlRespRoot root;
+    root.setType(XmlRespRoot::RespInteractive);
+    root.setFinal(false);
+    root.setTimestamp(someTime());
+    root.processXml(reader, QStringLiteral("R"));
+    QCOMPARE(reader.errorString(), QStringLiteral("in XmlRespRoot (%1): Parse error (wrong position).").arg(place));
+    QCOMPARE(held(root), text("1;0;2024-03-05T14:07:09;-;-"));
+}
+
+void ResponserootTest::combinations_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<int>("order");
+    QTest::addColumn<int>("response");
+
+    const char* const states[] = {"no", "a valid", "an invalid"};
+    for (int type = 0; type < 4; ++type) {
+        for (int order = 0; order < 3; ++order) {
+            for (int response = 0; response < 3; ++response) {
+                QTest::addRow("type %d, %s order, %s response", type, states[order], states[response])
+                    << type << order << response;
+            }
+        }
+    }
+}
+
+void ResponserootTest::combinations()
+{
+    QFETCH(int, type);
+    QFETCH(int, order);
+    QFETCH(int, response);
+
+    XmlRespRoot root;
+    root.setType(static_cast<XmlRespRoot::RespType>(type));
+    if (order != 0)
+        root.setOrderDef(order == 1 ? orderDef(QStringLiteral("host")) : XmlOrderDef());
+    if (response != 0)
+        root.setAutoResp(autoResp(response == 1 ? QStringLiteral("ref") : QString()));
+
+    bool valid = order != 2;
+    QString problems;
+    switch (type) {
+    case 0:
+        valid = false;
+        problems = text("Type not defined.\n");
+        break;
+    case 1: // with an automatic response just as without
+        valid = false;
+        problems = text("Type interactive but no content\n");
+        break;
+    case 2:
+        valid = valid && response == 1;
+        if (response == 0)
+            problems = text("Type automatic but no content\n");
+        else if (response == 2)
+            problems = text("+++ in XmlAutoRespType Begin:\n"
+                            "+++ in XmlreferenceType Begin:\n"
+                            "String too short (min. 1)\n"
+                            "--- in XmlreferenceType End\n"
+                            "--- in XmlAutoRespType End\n");
+        break;
+    default: // a type beyond the known ones: the content is not looked at
+        break;
+    }
+    if (order == 2)
+        problems += text("+++ in XmlOrderDef Begin:\n"
+                         "Id not set.\n"
+                         "Sender not set.\n"
+                         "--- in XmlOrderDef End\n");
+    const QString error = problems.isEmpty()
+        ? QString()
+        : QStringLiteral("+++ in XmlRespRoot Begin:\n%1--- in XmlRespRoot End").arg(problems);
+
+    for (const bool isFinal : {true, false}) { // neither this nor the time matters
+        root.setFinal(isFinal);
+        root.setTimestamp(isFinal ? someTime() : QDateTime());
+        QCOMPARE(root.isValid(), valid);
+        QCOMPARE(root.syntaxError(), error);
+        QCOMPARE(root.syntaxError(), error);
+    }
+}
+
+void ResponserootTest::reset()
+{
+    XmlRespRoot root;
+    root.setType(XmlRespRoot::RespAutomatic);
+    root.setFinal(false);
+    root.setTimestamp(someTime());
+    root.setOrderDef(orderDef(QStringLiteral("host")));
+    root.setAutoResp(autoResp(QStringLiteral("ref")));
+    const QDateTime before = QDateTime::currentDateTime();
+    root.reset();
+    const QDateTime after = QDateTime::currentDateTime();
+    QCOMPARE(root.type(), XmlRespRoot::RespUndefined);
+    QVERIFY(root.isFinal());
+    QVERIFY(root.timestamp() >= before);
+    QVERIFY(root.timestamp() <= after);
+    QCOMPARE(root.timestamp().timeSpec(), Qt::LocalTime);
+    QVERIFY(!root.hasOrderDef());
+    QVERIFY(root.orderDef() == nullptr);
+    QVERIFY(!root.hasAutoResp());
+    QVERIFY(root.autoResp() == nullptr);
+    QVERIFY(!root.isValid());
+    QCOMPARE(root.syntaxError(), text("+++ in XmlRespRoot Begin:\nType not defined.\n--- in XmlRespRoot End"));
+}
+
+QTEST_APPLESS_MAIN(ResponserootTest)
+#include "responseroot_test.moc"
