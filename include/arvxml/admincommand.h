@@ -9,7 +9,8 @@ namespace ArvXml {
 ///
 /// The only one is the version query. The kind is set by reading alone; a new command has none
 /// ("Invalid Administrative command type"). Query and reference may come in either order; the
-/// reference may be missing or repeated on reading, and the last one counts.
+/// reference may be missing or repeated on reading, and the last one counts. What stands inside
+/// "QueryVersion" is read as if it stood beside it.
 class ARVXML_EXPORT XmlCmdAdmin : public XmlCommand {
 public:
     enum AdminCmd : int {
@@ -21,10 +22,10 @@ public:
     AdminCmd adminCmd() const { return m_command; }
 
     bool isValid() const override;
-    QString syntaxError() override;
     void reset() override;
 
 protected:
+    void addErrors() override;
     const ElementForm& form() const override;
 
 private:

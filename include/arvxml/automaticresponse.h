@@ -17,7 +17,12 @@ namespace ArvXml {
 /// An error message is written alone, else an estimated time alone; what else is held is dropped then.
 /// Otherwise version, grid result and interlink result are written as far as they are held, more than
 /// a reader accepts. isValid() and syntaxError() tell such objects, not always alike: three items are
-/// valid though reported, and no item is invalid though not reported.
+/// valid though reported, and no item is invalid though not reported. The problems read "Status not
+/// defined.", "Has ErrorMessage but not status 'fault'", "Has ErrorMessage but also EstimatedTime", "Must
+/// have status 'ack'", "If EstimatedTime given, no results allowed", "If ArvVersion set, no results
+/// allowed" and "Only one result allowed".
+///
+/// A result held is removed by reset() only; message, version and time go away with an empty value.
 class ARVXML_EXPORT XmlAutoRespType : public XmlComposite {
 public:
     /// Texts "fault" and "ack".
@@ -29,6 +34,7 @@ public:
 
     XmlAutoRespType();
     /// Attribute "status"; an unknown text is the reader error "Illegal attribute value in "status"".
+    /// An undefined status is written as "UNDEFINED", which no reader accepts.
     RespStatus status() const { return m_status; }
     void setStatus(RespStatus status) { m_status = status; }
 
@@ -64,10 +70,10 @@ public:
 
     void produceXml(QXmlStreamWriter& writer, const QString& tagName) const override;
     bool isValid() const override;
-    QString syntaxError() override;
     void reset() override;
 
 protected:
+    void addErrors() override;
     const ElementForm& form() const override;
     quint32 openElement(ElementReader& in) override;
 

@@ -9,7 +9,8 @@ namespace ArvXml {
 /// The command to calculate: `<Calculate><CEP>...</CEP><Reference>42</Reference></Calculate>`, exactly
 /// one order, then the reference.
 ///
-/// An order read replaces the one of its kind; reading does not reset the command first.
+/// All orders held are written, but a reader refuses the second. An order read replaces the one of its kind; reading
+/// does not reset the command first.
 class ARVXML_EXPORT XmlCmdCalc : public XmlChoiceCommand {
 public:
     XmlCmdCalc();

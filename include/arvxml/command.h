@@ -13,6 +13,7 @@ namespace ArvXml {
 /// command a copy.
 class ARVXML_EXPORT XmlCommand : public XmlComposite {
 public:
+    /// The reference, 1 to 50 characters.
     const XmlReferenceType& cmdReference() const { return m_reference; }
     void setCmdReference(const XmlReferenceType& reference) { m_reference = reference; }
 
@@ -37,10 +38,11 @@ protected:
 class ARVXML_EXPORT XmlChoiceCommand : public XmlCommand {
 public:
     bool isValid() const override;
-    QString syntaxError() override;
 
 protected:
     using XmlCommand::XmlCommand;
+
+    void addErrors() override;
 
 private:
     bool holdsExactlyOne() const;

@@ -11,6 +11,7 @@ namespace ArvXml {
 ///
 /// Sensors and areas are always held, always written, and required on reading. A grid read replaces
 /// the one held; what the document does not mention stays as it was.
+/// Name lists grow when read again, until "All" empties them.
 class ARVXML_EXPORT XmlCoverageOrder : public XmlComposite {
 public:
     /// The areas of interest.

@@ -18,6 +18,10 @@ struct EnumerationRules;
 
 /// What every element of the protocol can do.
 ///
+/// Getters of children return pointers that stay valid until the child is set anew, read, reset or
+/// removed, or its owner is assigned to or destroyed. An optional child is removed by reset() or by
+/// assigning an element that has none.
+///
 /// An element does not know the tag under which it stands: whoever holds it passes the tag, so one
 /// type serves under several tags. No operation throws for bad input.
 class ARVXML_EXPORT IXmlElement {
@@ -27,9 +31,13 @@ public:
     /// Reads the element from \a reader, which stands on the element's start tag, up to and
     /// including the end tag \a tagName (a local name, without a prefix).
     ///
-    /// A failure is raised on the reader as "in CLASS (line L, column C): MESSAGE." and ends the
-    /// whole read; ask `reader.hasError()` and `reader.errorString()`. What was read until then is
+    /// A failure ends the whole read; ask `reader.hasError()` and `reader.errorString()`. The element
+    /// raises it as "in CLASS (line L, column C): MESSAGE."; what is no XML at all, or holds an element
+    /// where a text should be, the reader raises itself in its own words. What was read until then is
     /// kept. Values out of range are no failure here; see isValid().
+    ///
+    /// On another token than a start tag, elements with attributes of their own raise "Parse error
+    /// (wrong position)"; the others go on with the next token.
     virtual void processXml(QXmlStreamReader& reader, const QString& tagName) = 0;
 
     /// Writes the element under the tag \a tagName. What is held is written, valid or not.
@@ -39,7 +47,10 @@ public:
     virtual bool isValid() const = 0;
 
     /// What is wrong with the content, one line a problem, the problems of an element framed by its
-    /// class; empty when nothing is wrong. Not const, since the text is kept in the element.
+    /// class; empty when nothing is. It agrees with isValid() but where a class says so, and for a
+    /// number that is not one (NaN): that may be invalid without a problem being told.
+    ///
+    /// Not const, since the text is kept in the element.
     virtual QString syntaxError() = 0;
 
     /// Returns to the state of a new object, as far as the class says nothing else.
@@ -83,6 +94,18 @@ private:
     QString m_syntaxError;
 };
 
+/// The base of all elements of the library: syntaxError() is told once.
+class ARVXML_EXPORT XmlElement : public XmlElementBase {
+public:
+    QString syntaxError() override;
+
+protected:
+    using XmlElementBase::XmlElementBase;
+
+    /// Adds the element's problems, and those of its children.
+    virtual void addErrors() = 0;
+};
+
 /// The version of a versioned element: attribute "version", by default and only supported "1.0".
 ///
 /// Some elements refuse another version while reading ("Version not supported: 2.0"); in the others
@@ -120,17 +143,17 @@ private:
 /// The base of the elements whose content is child elements. What such an element looks like on the
 /// wire is told once, by its form: the tags in the order of writing, what holds them, and what may
 /// follow what. The operations here carry a form out; a class overrides those in which it departs.
-class ARVXML_EXPORT XmlComposite : public XmlElementBase {
+class ARVXML_EXPORT XmlComposite : public XmlElement {
 public:
     void processXml(QXmlStreamReader& reader, const QString& tagName) override;
     void produceXml(QXmlStreamWriter& writer, const QString& tagName) const override;
     bool isValid() const override;
-    QString syntaxError() override;
     void reset() override;
 
 protected:
-    using XmlElementBase::XmlElementBase;
+    using XmlElement::XmlElement;
 
+    void addErrors() override;
     /// The element's wire form.
     virtual const ElementForm& form() const = 0;
     /// What happens before the children are read (position, attributes). Returns the marks that the
@@ -152,12 +175,12 @@ protected:
 class ARVXML_EXPORT XmlVersionedComposite : public XmlComposite, public XmlVersioned {
 public:
     bool isValid() const override;
-    QString syntaxError() override;
     void reset() override;
 
 protected:
     using XmlComposite::XmlComposite;
 
+    void addErrors() override;
     quint32 openElement(ElementReader& in) override;
     void writeAttributes(QXmlStreamWriter& writer) const override;
 };
@@ -167,28 +190,29 @@ protected:
 class ARVXML_EXPORT XmlList : public XmlVersionedComposite {
 public:
     bool isValid() const override;
-    QString syntaxError() override;
 
 protected:
     using XmlVersionedComposite::XmlVersionedComposite;
 
+    void addErrors() override;
     quint32 openElement(ElementReader& in) override;
 };
 
 /// The base of the elements whose content is one text out of a list. Value 0 means that none is
 /// chosen; it is never read, makes the element invalid, and is written as "UNDEFINED", as is every
-/// value outside the list. Texts are compared exactly: case and blanks count.
-class ARVXML_EXPORT XmlEnumeration : public XmlElementBase {
+/// value outside the list. Texts are compared exactly: case and blanks count. Each piece of text is
+/// taken for itself (a comment cuts a text in two); an element without text keeps its value.
+class ARVXML_EXPORT XmlEnumeration : public XmlElement {
 public:
     void processXml(QXmlStreamReader& reader, const QString& tagName) override;
     void produceXml(QXmlStreamWriter& writer, const QString& tagName) const override;
     bool isValid() const override;
-    QString syntaxError() override;
     void reset() override;
 
 protected:
-    using XmlElementBase::XmlElementBase;
+    using XmlElement::XmlElement;
 
+    void addErrors() override;
     virtual const EnumerationRules& rules() const = 0;
 
     int m_value = 0;

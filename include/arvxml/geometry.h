@@ -21,13 +21,11 @@ public:
     void setLatitude(double latitude) { m_latitude = latitude; }
 
     bool isValid() const override;
-    QString syntaxError() override;
     void reset() override;
 
 protected:
+    void addErrors() override;
     const ElementForm& form() const override;
-    /// Adds the problems of the version and the position.
-    void addCoordinateErrors();
 
 private:
     double m_longitude;
@@ -47,10 +45,10 @@ public:
     void setNumber(int number) { m_number = number; }
 
     bool isValid() const override;
-    QString syntaxError() override;
     void reset() override;
 
 protected:
+    void addErrors() override;
     quint32 openElement(ElementReader& in) override;
     void writeAttributes(QXmlStreamWriter& writer) const override;
 
@@ -88,7 +86,7 @@ private:
 class ARVXML_EXPORT XmlAreaPolyType : public XmlVersionedComposite {
 public:
     XmlAreaPolyType();
-    /// The vertices in order; they belong to the polygon.
+    /// The vertices in order; they belong to the polygon. Changing a number does not move a vertex.
     QVector<XmlNumCoordType*> vertices() const { return m_vertices.items(); }
     /// Replaces the vertices by copies of the given ones, each put in its place by its number;
     /// vertices of the same number keep their order.
@@ -96,9 +94,9 @@ public:
 
     void processXml(QXmlStreamReader& reader, const QString& tagName) override;
     bool isValid() const override;
-    QString syntaxError() override;
 
 protected:
+    void addErrors() override;
     const ElementForm& form() const override;
     bool isComplete(quint32 read) const override;
 

@@ -10,13 +10,14 @@ namespace ArvXml {
 /// <ScreenshotFilename>cep.png</ScreenshotFilename></CEP></GridResult>`. The parameters repeat the
 /// order; the picture is a file of the service's, of which only the name is carried.
 ///
-/// Reading always stops inside "Parameter": the parameters are read, but are told the tag of the
-/// wrapper ("CEP") as theirs, and so refuse the end tag of "Parameter" ("Unexpected token
-/// "EndElement": Parameter", in the class of the parameters). The type and the parameters read are
-/// kept; the file name is not reached.
+/// Reading never succeeds. In a complete document it stops behind "Parameter": the parameters are read,
+/// but are told the tag of the wrapper ("CEP") as theirs, and so refuse the end tag of "Parameter"
+/// ("Unexpected token "EndElement": Parameter", in the class of the parameters). The type and the
+/// parameters read are kept; the file name is not reached.
 ///
-/// Valid with a type ("Type not defined"), the parameters of that type and no others, and a file name
-/// ("Screenshot path not set").
+/// Valid with a type ("Type not defined"), the parameters of that type and no others ("Type is 'CEP' but
+/// no CEP parameters or other parameters found"), and a file name ("Screenshot path not set"). A type
+/// beyond the known ones is invalid without a problem being told.
 class ARVXML_EXPORT XmlGridResultType : public XmlComposite {
 public:
     /// Texts "FindSites", "CEP", "DetectProb", "DfCoverage", "BestSensorCov".
@@ -30,7 +31,8 @@ public:
     };
 
     XmlGridResultType();
-    /// Attribute "type"; an unknown text is the reader error "Illegal attribute value in "type"".
+    /// Attribute "type"; an unknown text is the reader error "Illegal attribute value in "type"". An
+    /// undefined type is written as "UNDEFINED", which no reader accepts.
     ResultType type() const { return m_type; }
     void setType(ResultType type) { m_type = type; }
 
@@ -64,16 +66,17 @@ public:
     void setScreenshotFilename(const QString& filename) { m_screenshotFilename = filename; }
 
     bool isValid() const override;
-    QString syntaxError() override;
     void reset() override;
 
 protected:
+    void addErrors() override;
     const ElementForm& form() const override;
     quint32 openElement(ElementReader& in) override;
     void writeAttributes(QXmlStreamWriter& writer) const override;
 
 private:
     void readParameter(QXmlStreamReader& reader);
+    bool isTypeDefined() const;
     bool hasParametersOfType() const;
 
     ResultType m_type = ResultUndefined;
@@ -86,8 +89,9 @@ private:
 };
 
 /// The range of the values of a result grid:
-/// `<Values version="1.0" unit="dB"><Min>-12.5</Min><Max>40</Max></Values>`, both numbers required, in
-/// this order, written with six significant digits.
+/// `<Values version="1.0" unit="dB"><Min>-12.5</Min><Max>40</Max></Values>`, both tags required, in
+/// this order, the numbers written with six significant digits. An empty tag leaves the number as it
+/// was; which number is the greater is not judged.
 ///
 /// White space between the tags is refused on reading ("Unexpected characters"): an indented document
 /// cannot be read here. Version and unit must not be empty ("Missing mandatory attributes"); an
@@ -105,10 +109,10 @@ public:
     void setMax(double max) { m_max = max; }
 
     bool isValid() const override;
-    QString syntaxError() override;
     void reset() override;
 
 protected:
+    void addErrors() override;
     const ElementForm& form() const override;
     quint32 openElement(ElementReader& in) override;
     void writeAttributes(QXmlStreamWriter& writer) const override;

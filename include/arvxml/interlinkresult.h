@@ -9,7 +9,8 @@ namespace ArvXml {
 /// <Text>feasible</Text><ScreenshotFilename>link.png</ScreenshotFilename></Result></InterlinkResult>`,
 /// the file name optional.
 ///
-/// Valid with valid parameters and a text ("Missing Result Text").
+/// On reading, the parameters come before the "Result" with the text, and a file name without a text is
+/// refused at the end tag. Valid with valid parameters and a text ("Missing Result Text").
 class ARVXML_EXPORT XmlInterlinkResultType : public XmlComposite {
 public:
     XmlInterlinkResultType();
@@ -26,10 +27,10 @@ public:
     void setScreenshotFilename(const QString& filename) { m_screenshotFilename = filename; }
 
     bool isValid() const override;
-    QString syntaxError() override;
     void reset() override;
 
 protected:
+    void addErrors() override;
     const ElementForm& form() const override;
 
 private:

@@ -4,50 +4,56 @@
 
 namespace ArvXml {
 
-/// The name of one planning object: `<Name>Site 1</Name>`, 1 to 128 characters.
-///
-/// Problems: "Object name too short (min. 1)." and "Object name too long (max. 128)". An empty
-/// element leaves the name as it was.
-class ARVXML_EXPORT XmlObjNameType : public XmlElementBase {
-public:
-    XmlObjNameType();
-    const QString& objName() const { return m_objName; }
-    void setObjName(const QString& objName) { m_objName = objName; }
+struct TextRules;
 
+/// The base of the elements whose content is one short text. An empty element leaves the text as it was.
+class ARVXML_EXPORT XmlText : public XmlElement {
+public:
     void processXml(QXmlStreamReader& reader, const QString& tagName) override;
     void produceXml(QXmlStreamWriter& writer, const QString& tagName) const override;
     bool isValid() const override;
-    QString syntaxError() override;
     void reset() override;
 
-private:
-    QString m_objName;
+protected:
+    using XmlElement::XmlElement;
+
+    void addErrors() override;
+    virtual const TextRules& rules() const = 0;
+
+    QString m_text;
+};
+
+/// The name of one planning object: `<Name>Site 1</Name>`, 1 to 128 characters.
+///
+/// Problems: "Object name too short (min. 1)." and "Object name too long (max. 128)".
+class ARVXML_EXPORT XmlObjNameType : public XmlText {
+public:
+    XmlObjNameType();
+    const QString& objName() const { return m_text; }
+    void setObjName(const QString& objName) { m_text = objName; }
+
+protected:
+    const TextRules& rules() const override;
 };
 
 /// The reference of a command, by which a response points back to it: `<Reference>42</Reference>`,
 /// 1 to 50 characters.
 ///
 /// Messages call the class "XmlreferenceType". Problems: "String too short (min. 1)" and "String too
-/// long (max. 50)". An empty element leaves the reference as it was.
-class ARVXML_EXPORT XmlReferenceType : public XmlElementBase {
+/// long (max. 50)".
+class ARVXML_EXPORT XmlReferenceType : public XmlText {
 public:
     XmlReferenceType();
-    const QString& reference() const { return m_reference; }
-    void setReference(const QString& reference) { m_reference = reference; }
+    const QString& reference() const { return m_text; }
+    void setReference(const QString& reference) { m_text = reference; }
 
-    void processXml(QXmlStreamReader& reader, const QString& tagName) override;
-    void produceXml(QXmlStreamWriter& writer, const QString& tagName) const override;
-    bool isValid() const override;
-    QString syntaxError() override;
-    void reset() override;
-
-private:
-    QString m_reference;
+protected:
+    const TextRules& rules() const override;
 };
 
 /// The key of a map entry: `<Key>3</Key>`, a decimal integer, 0 or more ("XmlMapType: Illegal
 /// Key."). Default 0, also stored for a text that is no integer.
-class ARVXML_EXPORT XmlKeyType : public XmlElementBase {
+class ARVXML_EXPORT XmlKeyType : public XmlElement {
 public:
     XmlKeyType();
     int key() const { return m_key; }
@@ -56,75 +62,84 @@ public:
     void processXml(QXmlStreamReader& reader, const QString& tagName) override;
     void produceXml(QXmlStreamWriter& writer, const QString& tagName) const override;
     bool isValid() const override;
-    QString syntaxError() override;
     void reset() override;
+
+protected:
+    void addErrors() override;
 
 private:
     int m_key = 0;
 };
 
+/// The base of the choices between names and all objects. A new choice means all, but is
+/// "Uninitialized." until it is made: by a setter, even one that sets what was there, or by reading.
+class ARVXML_EXPORT XmlNameChoice : public XmlComposite {
+public:
+    /// Whether all objects are meant, that is, no name is held; also on a new element.
+    bool all() const { return heldChildren() == 0; }
+    /// Removes the names: all objects are meant.
+    void setAll();
+
+    void produceXml(QXmlStreamWriter& writer, const QString& tagName) const override;
+    void reset() override;
+
+protected:
+    using XmlComposite::XmlComposite;
+
+    void addErrors() override;
+    bool isInitialised() const { return m_initialised; }
+    void setInitialised() { m_initialised = true; }
+    /// Removes the names, without saying that the choice is made.
+    virtual void removeNames() = 0;
+
+private:
+    bool m_initialised = false;
+};
+
 /// One object by its name, or all: `<Emitter><Name>TX 1</Name></Emitter>` or
 /// `<Emitter><All/></Emitter>`. A "Reference" inside is skipped on reading.
 ///
-/// A new element means all, but is "Uninitialized." until a choice is read or set; one with a name
-/// is valid as its name is, whether initialised or not.
-class ARVXML_EXPORT XmlNameAllType : public XmlComposite {
+/// With a name, the choice is valid as the name is, even where syntaxError() reports "Uninitialized.",
+/// as after a reading that failed.
+class ARVXML_EXPORT XmlNameAllType : public XmlNameChoice {
 public:
     XmlNameAllType();
-    /// Whether all objects are meant, that is, no name is held; also on a new element.
-    bool all() const { return !m_objName.isPresent(); }
-    void setAll();
     bool hasObjName() const { return m_objName.isPresent(); }
     /// The name, null when all are meant.
     const XmlObjNameType* objName() const { return m_objName.get(); }
     void setObjName(const XmlObjNameType& objName);
 
-    void produceXml(QXmlStreamWriter& writer, const QString& tagName) const override;
     bool isValid() const override;
-    QString syntaxError() override;
-    void reset() override;
 
 protected:
     const ElementForm& form() const override;
+    void removeNames() override;
 
 private:
-    void chooseAll() { m_objName.clear(); }
-    void setInitialised() { m_initialised = true; }
-
     OptionalChild<XmlObjNameType> m_objName;
-    bool m_initialised = false;
 };
 
 /// Several objects by their names, or all: `<AOIs><Name>North</Name><Name>South</Name></AOIs>` or
 /// `<AOIs><All/></AOIs>`.
 ///
-/// A new element means all, but is "Uninitialized." and invalid until a choice is read or set.
-/// Reading into a used element adds the names read to those held; "All" removes them.
-class ARVXML_EXPORT XmlNameAllMultiType : public XmlComposite {
+/// Until the choice is made the element is invalid, whatever it holds. Reading into a used element adds
+/// the names read to those held; "All" removes them.
+class ARVXML_EXPORT XmlNameAllMultiType : public XmlNameChoice {
 public:
     XmlNameAllMultiType();
-    /// Whether all objects are meant, that is, no names are held; also on a new element.
-    bool all() const { return m_objNames.isEmpty(); }
-    void setAll();
     /// The names, owned by the element; empty when all are meant.
     const QList<XmlObjNameType*>& objNames() const { return m_objNames.items(); }
     /// Replaces the names by copies of the given ones. No names at all mean all objects.
     void setObjNames(const QList<XmlObjNameType*>& objNames);
 
-    void produceXml(QXmlStreamWriter& writer, const QString& tagName) const override;
     bool isValid() const override;
-    QString syntaxError() override;
-    void reset() override;
 
 protected:
     const ElementForm& form() const override;
+    void removeNames() override;
 
 private:
-    void chooseAll() { m_objNames.clear(); }
-    void setInitialised() { m_initialised = true; }
-
     OwnedList<XmlObjNameType> m_objNames;
-    bool m_initialised = false;
 };
 
 } // namespace ArvXml

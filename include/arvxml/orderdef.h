@@ -9,28 +9,31 @@ namespace ArvXml {
 /// both required, in this order.
 ///
 /// Valid with both set ("Id not set.", "Sender not set."). An id of another form is dropped while
-/// reading, without an error; so is an empty sender.
+/// reading, without an error; so is an empty sender. What was held before then stays: reset an envelope
+/// before reading into it again.
 class ARVXML_EXPORT XmlOrderDef : public XmlComposite {
 public:
     XmlOrderDef();
 
-    /// A fresh envelope: "ARV" with the local date and time to the millisecond as id, the name of
+    /// A fresh envelope: "ARV" with the local date and time as id ("yyMMddhhmmsszzz", to the
+    /// millisecond), the name of
     /// this host as sender. Two made within one millisecond have the same id. Without a host name
     /// the sender stays empty and the envelope is not valid.
     static XmlOrderDef createValidInstance();
 
     const QString& orderId() const { return m_orderId; }
-    /// Stores \a id and returns true if it is "ARV" and exactly 15 digits; otherwise changes nothing.
+    /// Stores \a id and returns true if it is "ARV" and exactly 15 digits, of whatever script; otherwise
+    /// changes nothing.
     bool setOrderId(const QString& id);
     const QString& orderSender() const { return m_orderSender; }
     /// Stores \a sender and returns true if it is not empty; otherwise changes nothing.
     bool setOrderSender(const QString& sender);
 
     bool isValid() const override;
-    QString syntaxError() override;
     void reset() override;
 
 protected:
+    void addErrors() override;
     const ElementForm& form() const override;
 
 private:

@@ -87,7 +87,8 @@ public:
 
     OwnedList& operator=(const OwnedList& other)
     {
-        set(other.m_items);
+        if (this != &other)
+            set(other.m_items);
         return *this;
     }
     OwnedList& operator=(OwnedList&& other) noexcept

@@ -11,16 +11,18 @@ struct QuantityRules;
 ///
 /// A text that is no number is the reader error "Illegal value (must be numeric)" and leaves the
 /// default in the element; an empty element leaves the value as it was. Setters store without
-/// checking; numbers out of range and wrong versions are reported by isValid() and syntaxError().
-class ARVXML_EXPORT XmlQuantity : public XmlElementBase, public XmlVersioned {
+/// checking; numbers out of range and wrong versions are reported by isValid() and syntaxError(). The
+/// decimals written are those of the example at each class: a number smaller than they can show is
+/// written as zero.
+class ARVXML_EXPORT XmlQuantity : public XmlElement, public XmlVersioned {
 public:
     void processXml(QXmlStreamReader& reader, const QString& tagName) override;
     void produceXml(QXmlStreamWriter& writer, const QString& tagName) const override;
     bool isValid() const override;
-    QString syntaxError() override;
     void reset() override;
 
 protected:
+    void addErrors() override;
     XmlQuantity(const QString& className, const QuantityRules& rules);
 
     virtual const QuantityRules& rules() const = 0;
@@ -145,7 +147,7 @@ public:
     double frequency_MHz() const { return m_value; }
     void setFrequency_MHz(double frequency) { m_value = frequency; }
     /// The unit to write in; it does not change the value held. An unknown unit is written with the
-    /// number of megahertz.
+    /// number of megahertz, and an empty one is refused by readers.
     void setUnit(const QString& unit) { m_unit = unit; }
 
 protected:
@@ -157,7 +159,8 @@ protected:
 
 /// A bandwidth in kHz: `<Bandwidth version="1.0" unit="kHz">25</Bandwidth>`. Default -1.0.
 ///
-/// Read as a decimal integer (25.5 is not numeric here), written with six significant digits. Valid
+/// Read as a decimal integer, but written with six significant digits: 25.5, or anything from a million
+/// on (1e+06), is valid and written, and refused when read. Valid
 /// from 0.0 on, with the unit "kHz". Its problems name another class: "XmlDfPrecisionType: Illegal
 /// precision." and "XmlDfPrecisionType: Illegal unit.".
 class ARVXML_EXPORT XmlBandwidthType : public XmlReadUnitQuantity {

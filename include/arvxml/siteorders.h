@@ -13,7 +13,8 @@ namespace ArvXml {
 /// the deployment areas optional.
 ///
 /// Random emitters need a number from 0 to 500 ("RandomEmitters/Number out of bounds") and a
-/// distribution ("RandomEmitters distribution not set"); without a distribution they are not written.
+/// distribution ("RandomEmitters distribution not set"); without a distribution they are not written, and
+/// one beyond the known ones is written as "UNDEFINED", which no reader accepts.
 /// While reading, a number that is no integer is "Illegal value for "Number" (must be numeric)", an
 /// unknown distribution "Illegal value for "Distribution"".
 class ARVXML_EXPORT XmlFindSitesType : public XmlComposite {
@@ -51,10 +52,10 @@ public:
     void setResultGrid(const XmlResultGridType& resultGrid) { m_resultGrid.set(resultGrid); }
 
     bool isValid() const override;
-    QString syntaxError() override;
     void reset() override;
 
 protected:
+    void addErrors() override;
     const ElementForm& form() const override;
 
 private:
@@ -75,20 +76,23 @@ private:
 /// <SecondName>B</SecondName></InterlinkPlanning>`, both required, in this order.
 ///
 /// A name of more than 128 characters is an error while reading ("FirstName too long (max. 128)"),
-/// though it is stored; an empty one is a problem afterwards ("FirstName not set").
+/// though it is stored; setters and judging know no such limit. An empty one is a problem afterwards
+/// ("FirstName not set").
 class ARVXML_EXPORT XmlInterlinkPlanningType : public XmlComposite {
 public:
     XmlInterlinkPlanningType();
+    /// The object at one end of the link, 1 to 128 characters.
     const QString& firstName() const { return m_firstName; }
     void setFirstName(const QString& name) { m_firstName = name; }
+    /// The object at the other end, likewise.
     const QString& secondName() const { return m_secondName; }
     void setSecondName(const QString& name) { m_secondName = name; }
 
     bool isValid() const override;
-    QString syntaxError() override;
     void reset() override;
 
 protected:
+    void addErrors() override;
     const ElementForm& form() const override;
 
 private:

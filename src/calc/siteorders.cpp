@@ -18,18 +18,21 @@ const EnumerationTexts& distributionTexts()
     return texts;
 }
 
+/// A name that is too long is refused, but stored all the same.
+void refuseLongName(const QString& name, const QString& message, ElementReader& in)
+{
+    if (name.size() > maxNameLength)
+        in.fail(message);
+}
 void takeFirstName(XmlInterlinkPlanningType& order, const QString& text, ElementReader& in)
 {
     order.setFirstName(text);
-    if (text.size() > maxNameLength)
-        in.fail(QStringLiteral("FirstName too long (max. 128)"));
+    refuseLongName(text, QStringLiteral("FirstName too long (max. 128)"), in);
 }
-
 void takeSecondName(XmlInterlinkPlanningType& order, const QString& text, ElementReader& in)
 {
     order.setSecondName(text);
-    if (text.size() > maxNameLength)
-        in.fail(QStringLiteral("SecondName too long (max. 128)"));
+    refuseLongName(text, QStringLiteral("SecondName too long (max. 128)"), in);
 }
 
 } // namespace
@@ -120,9 +123,8 @@ bool XmlFindSitesType::isValid() const
     return XmlComposite::isValid() && isRandomNumberValid() && !lacksDistribution();
 }
 
-QString XmlFindSitesType::syntaxError()
+void XmlFindSitesType::addErrors()
 {
-    clearSyntaxError();
     addSyntaxError(memberError(m_deploymentAreas));
     addSyntaxError(memberError(m_knownEmitters));
     if (!isRandomNumberValid())
@@ -130,7 +132,6 @@ QString XmlFindSitesType::syntaxError()
     if (lacksDistribution())
         addSyntaxError(QStringLiteral("RandomEmitters distribution not set"));
     addSyntaxError(memberError(m_resultGrid));
-    return mySyntaxError();
 }
 
 void XmlFindSitesType::reset()
@@ -163,14 +164,12 @@ bool XmlInterlinkPlanningType::isValid() const
     return !m_firstName.isEmpty() && !m_secondName.isEmpty();
 }
 
-QString XmlInterlinkPlanningType::syntaxError()
+void XmlInterlinkPlanningType::addErrors()
 {
-    clearSyntaxError();
     if (m_firstName.isEmpty())
         addSyntaxError(QStringLiteral("FirstName not set"));
     if (m_secondName.isEmpty())
         addSyntaxError(QStringLiteral("SecondName not set"));
-    return mySyntaxError();
 }
 
 void XmlInterlinkPlanningType::reset()

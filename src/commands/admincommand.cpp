@@ -35,13 +35,11 @@ bool XmlCmdAdmin::isValid() const
     return m_command != AdminUndefined && XmlCommand::isValid();
 }
 
-QString XmlCmdAdmin::syntaxError()
+void XmlCmdAdmin::addErrors()
 {
-    clearSyntaxError();
     if (m_command == AdminUndefined)
         addSyntaxError(QStringLiteral("Invalid Administrative command type"));
     addChildrenErrors();
-    return mySyntaxError();
 }
 
 void XmlCmdAdmin::reset()

@@ -21,14 +21,12 @@ bool XmlChoiceCommand::isValid() const
     return XmlCommand::isValid() && holdsExactlyOne();
 }
 
-QString XmlChoiceCommand::syntaxError()
+void XmlChoiceCommand::addErrors()
 {
-    clearSyntaxError();
     addSyntaxError(memberError(m_reference)); // reported first, though written last
     addChildrenErrors();
     if (!holdsExactlyOne())
         addSyntaxError(QStringLiteral("Too many or too few elements."));
-    return mySyntaxError();
 }
 
 } // namespace ArvXml

@@ -63,6 +63,13 @@ QString XmlElementBase::mySyntaxError()
     return m_syntaxError.isEmpty() ? QString() : blockTemplate.arg(m_className, m_syntaxError);
 }
 
+QString XmlElement::syntaxError()
+{
+    clearSyntaxError();
+    addErrors();
+    return mySyntaxError();
+}
+
 // Versions
 
 XmlVersioned::XmlVersioned()
@@ -154,11 +161,9 @@ bool XmlComposite::isValid() const
     return true;
 }
 
-QString XmlComposite::syntaxError()
+void XmlComposite::addErrors()
 {
-    clearSyntaxError();
     addChildrenErrors();
-    return mySyntaxError();
 }
 
 void XmlComposite::reset()
@@ -209,12 +214,10 @@ bool XmlVersionedComposite::isValid() const
     return supportsVersion() && XmlComposite::isValid();
 }
 
-QString XmlVersionedComposite::syntaxError()
+void XmlVersionedComposite::addErrors()
 {
-    clearSyntaxError();
     addSyntaxError(versionError());
     addChildrenErrors();
-    return mySyntaxError();
 }
 
 void XmlVersionedComposite::reset()
@@ -245,14 +248,11 @@ bool XmlList::isValid() const
     return heldChildren() > 0 && XmlVersionedComposite::isValid();
 }
 
-QString XmlList::syntaxError()
+void XmlList::addErrors()
 {
-    clearSyntaxError();
-    addSyntaxError(versionError());
-    addChildrenErrors();
+    XmlVersionedComposite::addErrors();
     if (heldChildren() == 0)
         addSyntaxError(form().m_tooFew);
-    return mySyntaxError();
 }
 
 quint32 XmlList::openElement(ElementReader& in)
@@ -283,12 +283,10 @@ bool XmlEnumeration::isValid() const
     return m_value != 0;
 }
 
-QString XmlEnumeration::syntaxError()
+void XmlEnumeration::addErrors()
 {
-    clearSyntaxError();
     if (m_value == 0)
         addSyntaxError(QString::fromLatin1(rules().undefinedError));
-    return mySyntaxError();
 }
 
 void XmlEnumeration::reset()

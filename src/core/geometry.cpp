@@ -76,20 +76,13 @@ bool XmlCoordinateType::isValid() const
     return supportsVersion() && isLongitude(m_longitude) && isLatitude(m_latitude);
 }
 
-void XmlCoordinateType::addCoordinateErrors()
+void XmlCoordinateType::addErrors()
 {
     addSyntaxError(versionError());
     if (!isLongitude(m_longitude))
         addSyntaxError(QStringLiteral("Longitude out of bounds"));
     if (!isLatitude(m_latitude))
         addSyntaxError(QStringLiteral("Latitude out of bounds"));
-}
-
-QString XmlCoordinateType::syntaxError()
-{
-    clearSyntaxError();
-    addCoordinateErrors();
-    return mySyntaxError();
 }
 
 void XmlCoordinateType::reset()
@@ -132,13 +125,11 @@ bool XmlNumCoordType::isValid() const
     return XmlCoordinateType::isValid() && m_number >= 0;
 }
 
-QString XmlNumCoordType::syntaxError()
+void XmlNumCoordType::addErrors()
 {
-    clearSyntaxError();
-    addCoordinateErrors();
+    XmlCoordinateType::addErrors();
     if (m_number < 0)
         addSyntaxError(QStringLiteral("(XmlNumCoordType) Number attribute too small (min. 0)"));
-    return mySyntaxError();
 }
 
 void XmlNumCoordType::reset()
@@ -238,9 +229,8 @@ bool XmlAreaPolyType::isValid() const
     return true;
 }
 
-QString XmlAreaPolyType::syntaxError()
+void XmlAreaPolyType::addErrors()
 {
-    clearSyntaxError();
     addSyntaxError(versionError());
     int previous = -1;
     for (XmlNumCoordType* vertex : m_vertices.items()) {
@@ -251,7 +241,6 @@ QString XmlAreaPolyType::syntaxError()
         }
         previous = vertex->number();
     }
-    return mySyntaxError();
 }
 
 } // namespace ArvXml

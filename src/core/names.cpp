@@ -5,104 +5,71 @@
 
 namespace ArvXml {
 
-namespace {
-
 /// How long a text may be, and what is said when it is not.
 struct TextRules {
     int max;
     const char* tooShort;
     const char* tooLong;
-
-    bool isValid(const QString& text) const { return !text.isEmpty() && text.size() <= max; }
-    QString error(const QString& text) const
-    {
-        if (text.isEmpty())
-            return QString::fromLatin1(tooShort);
-        return text.size() > max ? QString::fromLatin1(tooLong) : QString();
-    }
 };
 
-constexpr TextRules objNameRules = {128, "Object name too short (min. 1).", "Object name too long (max. 128)"};
-constexpr TextRules referenceRules = {50, "String too short (min. 1)", "String too long (max. 50)"};
+// Texts
 
-} // namespace
+void XmlText::processXml(QXmlStreamReader& reader, const QString& tagName)
+{
+    ElementReader in(*this, reader, tagName, leafWording);
+    in.readLeaf([this](const auto& text) { m_text = text.toString(); });
+}
 
-// A name
+void XmlText::produceXml(QXmlStreamWriter& writer, const QString& tagName) const
+{
+    writer.writeTextElement(tagName, m_text);
+}
+
+bool XmlText::isValid() const
+{
+    return !m_text.isEmpty() && m_text.size() <= rules().max;
+}
+
+void XmlText::addErrors()
+{
+    if (m_text.isEmpty())
+        addSyntaxError(QString::fromLatin1(rules().tooShort));
+    else if (m_text.size() > rules().max)
+        addSyntaxError(QString::fromLatin1(rules().tooLong));
+}
+
+void XmlText::reset()
+{
+    m_text.clear();
+    XmlElement::reset();
+}
 
 XmlObjNameType::XmlObjNameType()
-    : XmlElementBase(QStringLiteral("XmlObjNameType"))
+    : XmlText(QStringLiteral("XmlObjNameType"))
 {
 }
 
-void XmlObjNameType::processXml(QXmlStreamReader& reader, const QString& tagName)
+const TextRules& XmlObjNameType::rules() const
 {
-    ElementReader in(*this, reader, tagName, leafWording);
-    in.readLeaf([this](const auto& text) { m_objName = text.toString(); });
+    static constexpr TextRules rules = {128, "Object name too short (min. 1).", "Object name too long (max. 128)"};
+    return rules;
 }
-
-void XmlObjNameType::produceXml(QXmlStreamWriter& writer, const QString& tagName) const
-{
-    writer.writeTextElement(tagName, m_objName);
-}
-
-bool XmlObjNameType::isValid() const
-{
-    return objNameRules.isValid(m_objName);
-}
-
-QString XmlObjNameType::syntaxError()
-{
-    clearSyntaxError();
-    addSyntaxError(objNameRules.error(m_objName));
-    return mySyntaxError();
-}
-
-void XmlObjNameType::reset()
-{
-    m_objName.clear();
-    XmlElementBase::reset();
-}
-
-// A reference
 
 XmlReferenceType::XmlReferenceType()
-    : XmlElementBase(QStringLiteral("XmlreferenceType")) // with a small r
+    : XmlText(QStringLiteral("XmlreferenceType")) // with a small r
 {
 }
 
-void XmlReferenceType::processXml(QXmlStreamReader& reader, const QString& tagName)
+const TextRules& XmlReferenceType::rules() const
 {
-    ElementReader in(*this, reader, tagName, leafWording);
-    in.readLeaf([this](const auto& text) { m_reference = text.toString(); });
-}
-
-void XmlReferenceType::produceXml(QXmlStreamWriter& writer, const QString& tagName) const
-{
-    writer.writeTextElement(tagName, m_reference);
-}
-
-bool XmlReferenceType::isValid() const
-{
-    return referenceRules.isValid(m_reference);
-}
-
-QString XmlReferenceType::syntaxError()
-{
-    clearSyntaxError();
-    addSyntaxError(referenceRules.error(m_reference));
-    return mySyntaxError();
-}
-
-void XmlReferenceType::reset()
-{
-    m_reference.clear();
-    XmlElementBase::reset();
+    static constexpr TextRules rules = {50, "String too short (min. 1)", "String too long (max. 50)"};
+    return rules;
 }
 
 // A key
 
 XmlKeyType::XmlKeyType()
-    : XmlElementBase(QStringLiteral("XmlKeyType"))
+    : XmlElement(QStringLiteral("XmlKeyType"))
 {
 }
 
@@ -127,24 +94,50 @@ bool XmlKeyType::isValid() const
     return m_key >= 0;
 }
 
-QString XmlKeyType::syntaxError()
+void XmlKeyType::addErrors()
 {
-    clearSyntaxError();
     if (m_key < 0)
         addSyntaxError(QStringLiteral("XmlMapType: Illegal Key.")); // names the map, whose key it is
-    return mySyntaxError();
 }
 
 void XmlKeyType::reset()
 {
     m_key = 0;
-    XmlElementBase::reset();
+    XmlElement::reset();
 }
 
-// One name or all
+// Names or all
+
+void XmlNameChoice::setAll()
+{
+    removeNames();
+    setInitialised();
+}
+
+void XmlNameChoice::produceXml(QXmlStreamWriter& writer, const QString& tagName) const
+{
+    writer.writeStartElement(tagName);
+    if (all())
+        writer.writeEmptyElement(QStringLiteral("All"));
+    writeChildren(writer);
+    writer.writeEndElement();
+}
+
+void XmlNameChoice::addErrors()
+{
+    if (!m_initialised)
+        addSyntaxError(QStringLiteral("Uninitialized."));
+    addChildrenErrors();
+}
+
+void XmlNameChoice::reset()
+{
+    m_initialised = false;
+    XmlComposite::reset();
+}
 
 XmlNameAllType::XmlNameAllType()
-    : XmlComposite(QStringLiteral("XmlNameAllType"))
+    : XmlNameChoice(QStringLiteral("XmlNameAllType"))
 {
 }
 
@@ -153,7 +146,7 @@ const ElementForm& XmlNameAllType::form() const
     enum : Marks { Choice = 1 };
     static const ElementForm form = ElementForm(listWording)
                                         .children({
-                                            {"All", Choice, Choice, called<&XmlNameAllType::chooseAll>()},
+                                            {"All", Choice, Choice, called<&XmlNameAllType::removeNames>()},
                                             {"Name", Choice, Choice, reused<&XmlNameAllType::m_objName>()},
                                             {"Reference", 0, 0, skipped()},
                                         })
@@ -163,52 +156,25 @@ const ElementForm& XmlNameAllType::form() const
     return form;
 }
 
-void XmlNameAllType::setAll()
-{
-    chooseAll();
-    setInitialised();
-}
-
 void XmlNameAllType::setObjName(const XmlObjNameType& objName)
 {
     m_objName.set(objName);
     setInitialised();
 }
 
-void XmlNameAllType::produceXml(QXmlStreamWriter& writer, const QString& tagName) const
+void XmlNameAllType::removeNames()
 {
-    writer.writeStartElement(tagName);
-    if (all())
-        writer.writeEmptyElement(QStringLiteral("All"));
-    writeChildren(writer);
-    writer.writeEndElement();
+    m_objName.clear();
 }
 
 bool XmlNameAllType::isValid() const
 {
-    // With a name the flag does not count here, though syntaxError() reports it.
-    return hasObjName() ? m_objName.get()->isValid() : m_initialised;
+    // With a name it does not count whether the choice was made, though syntaxError() reports it.
+    return hasObjName() ? m_objName.get()->isValid() : isInitialised();
 }
-
-QString XmlNameAllType::syntaxError()
-{
-    clearSyntaxError();
-    if (!m_initialised)
-        addSyntaxError(QStringLiteral("Uninitialized."));
-    addChildrenErrors();
-    return mySyntaxError();
-}
-
-void XmlNameAllType::reset()
-{
-    m_initialised = false;
-    XmlComposite::reset();
-}
-
-// Several names or all
 
 XmlNameAllMultiType::XmlNameAllMultiType()
-    : XmlComposite(QStringLiteral("XmlNameAllMultiType"))
+    : XmlNameChoice(QStringLiteral("XmlNameAllMultiType"))
 {
 }
 
@@ -217,7 +183,7 @@ const ElementForm& XmlNameAllMultiType::form() const
     enum : Marks { All = 1, Name = 2 };
     static const ElementForm form = ElementForm(listWording)
                                         .children({
-                                            {"All", All, All | Name, called<&XmlNameAllMultiType::chooseAll>()},
+                                            {"All", All, All | Name, called<&XmlNameAllMultiType::removeNames>()},
                                             {"Name", Name, All, items<&XmlNameAllMultiType::m_objNames>()},
                                         })
                                         .completeWith(All)
@@ -227,45 +193,20 @@ const ElementForm& XmlNameAllMultiType::form() const
     return form;
 }
 
-void XmlNameAllMultiType::setAll()
-{
-    chooseAll();
-    setInitialised();
-}
-
 void XmlNameAllMultiType::setObjNames(const QList<XmlObjNameType*>& objNames)
 {
     m_objNames.set(objNames);
     setInitialised();
 }
 
-void XmlNameAllMultiType::produceXml(QXmlStreamWriter& writer, const QString& tagName) const
+void XmlNameAllMultiType::removeNames()
 {
-    writer.writeStartElement(tagName);
-    if (all())
-        writer.writeEmptyElement(QStringLiteral("All"));
-    writeChildren(writer);
-    writer.writeEndElement();
+    m_objNames.clear();
 }
 
 bool XmlNameAllMultiType::isValid() const
 {
-    return m_initialised && XmlComposite::isValid();
-}
-
-QString XmlNameAllMultiType::syntaxError()
-{
-    clearSyntaxError();
-    if (!m_initialised)
-        addSyntaxError(QStringLiteral("Uninitialized."));
-    addChildrenErrors();
-    return mySyntaxError();
-}
-
-void XmlNameAllMultiType::reset()
-{
-    m_initialised = false;
-    XmlComposite::reset();
+    return isInitialised() && XmlNameChoice::isValid();
 }
 
 } // namespace ArvXml

@@ -68,14 +68,12 @@ bool XmlOrderDef::isValid() const
     return !m_orderId.isEmpty() && !m_orderSender.isEmpty();
 }
 
-QString XmlOrderDef::syntaxError()
+void XmlOrderDef::addErrors()
 {
-    clearSyntaxError();
     if (m_orderId.isEmpty())
         addSyntaxError(QStringLiteral("Id not set."));
     if (m_orderSender.isEmpty())
         addSyntaxError(QStringLiteral("Sender not set."));
-    return mySyntaxError();
 }
 
 void XmlOrderDef::reset()

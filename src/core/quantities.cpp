@@ -59,7 +59,7 @@ const FrequencyUnit* frequencyUnit(const QString& unit)
 // What all quantities do
 
 XmlQuantity::XmlQuantity(const QString& className, const QuantityRules& rules)
-    : XmlElementBase(className)
+    : XmlElement(className)
     , m_value(rules.fallback)
 {
 }
@@ -95,22 +95,20 @@ bool XmlQuantity::isValid() const
     return supportsVersion() && rules().isValid(m_value) && isUnitValid();
 }
 
-QString XmlQuantity::syntaxError()
+void XmlQuantity::addErrors()
 {
-    clearSyntaxError();
     addSyntaxError(versionError());
     if (rules().isReported(m_value))
         addSyntaxError(QString::fromLatin1(rules().valueError));
     if (!isUnitValid())
         addSyntaxError(QString::fromLatin1(rules().unitError));
-    return mySyntaxError();
 }
 
 void XmlQuantity::reset()
 {
     m_value = rules().fallback;
     restoreVersion();
-    XmlElementBase::reset();
+    XmlElement::reset();
 }
 
 void XmlQuantity::openElement(ElementReader& in)

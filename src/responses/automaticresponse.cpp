@@ -94,11 +94,10 @@ bool XmlAutoRespType::isValid() const
     return m_status == StatusAck && items % 2 == 1; // one item, but three pass as well
 }
 
-QString XmlAutoRespType::syntaxError()
+void XmlAutoRespType::addErrors()
 {
     const bool hasResult = hasGridResult() || hasInterlinkResult();
 
-    clearSyntaxError();
     if (m_status == StatusUndefined)
         addSyntaxError(QStringLiteral("Status not defined."));
     addSyntaxError(memberError(m_reference));
@@ -119,7 +118,6 @@ QString XmlAutoRespType::syntaxError()
     }
     addSyntaxError(memberError(m_gridResult));
     addSyntaxError(memberError(m_interlinkResult));
-    return mySyntaxError();
 }
 
 void XmlAutoRespType::reset()

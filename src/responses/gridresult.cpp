@@ -49,7 +49,7 @@ template <auto Member>
 Content wrapped()
 {
     Content content = heldIn<Member>();
-    content.read = Content().read; // the wrapper is only entered; "Parameter" is what reads the set
+    // The wrapper's tag is only entered; "Parameter" is what reads the set.
     content.write = [](const XmlElementBase& owner, QXmlStreamWriter& writer, const QString& wrapper) {
         const auto& set = memberOf<Member>(owner);
         if (!set.isPresent())
@@ -134,6 +134,11 @@ void XmlGridResultType::writeAttributes(QXmlStreamWriter& writer) const
     writer.writeAttribute(typeAttribute(), typeTexts().text(m_type));
 }
 
+bool XmlGridResultType::isTypeDefined() const
+{
+    return m_type >= ResultFindSites && m_type <= ResultBestSensorCov;
+}
+
 bool XmlGridResultType::hasParametersOfType() const
 {
     const std::array<bool, 5> held = {hasFindSites(), hasCep(), hasDetectProb(), hasDfCov(), hasBestSensor()};
@@ -147,14 +152,12 @@ bool XmlGridResultType::hasParametersOfType() const
 
 bool XmlGridResultType::isValid() const
 {
-    return m_type >= ResultFindSites && m_type <= ResultBestSensorCov && hasParametersOfType()
-        && XmlComposite::isValid() && !m_screenshotFilename.isEmpty();
+    return isTypeDefined() && hasParametersOfType() && XmlComposite::isValid() && !m_screenshotFilename.isEmpty();
 }
 
-QString XmlGridResultType::syntaxError()
+void XmlGridResultType::addErrors()
 {
-    clearSyntaxError();
-    if (m_type >= ResultFindSites && m_type <= ResultBestSensorCov && !hasParametersOfType()) {
+    if (isTypeDefined() && !hasParametersOfType()) {
         const QString& type = typeTexts().text(m_type);
         addSyntaxError(QStringLiteral("Type is '%1' but no %1 parameters or other parameters found").arg(type));
     }
@@ -163,7 +166,6 @@ QString XmlGridResultType::syntaxError()
         addSyntaxError(QStringLiteral("Type not defined"));
     if (m_screenshotFilename.isEmpty())
         addSyntaxError(QStringLiteral("Screenshot path not set"));
-    return mySyntaxError();
 }
 
 void XmlGridResultType::reset()
@@ -262,13 +264,11 @@ bool XmlGridValuesType::isValid() const
     return supportsVersion() && !m_unit.isEmpty();
 }
 
-QString XmlGridValuesType::syntaxError()
+void XmlGridValuesType::addErrors()
 {
-    clearSyntaxError();
     if (lacksAttributes())
         addSyntaxError(QStringLiteral("Missing mandatory attributes"));
     addSyntaxError(versionError());
-    return mySyntaxError();
 }
 
 void XmlGridValuesType::reset()

@@ -42,13 +42,11 @@ bool XmlInterlinkResultType::isValid() const
     return XmlComposite::isValid() && !m_resultText.isEmpty();
 }
 
-QString XmlInterlinkResultType::syntaxError()
+void XmlInterlinkResultType::addErrors()
 {
-    clearSyntaxError();
     addChildrenErrors();
     if (m_resultText.isEmpty())
         addSyntaxError(QStringLiteral("Missing Result Text"));
-    return mySyntaxError();
 }
 
 void XmlInterlinkResultType::reset()

@@ -67,8 +67,17 @@ private Q_SLOTS:
     void underTheTagOfTheQuery();
 };
 
+template <typename T, typename = void>
+struct HasSetAdminCmd : std::false_type {
+};
+template <typename T>
+struct HasSetAdminCmd<T, std::void_t<decltype(std::declval<T&>().setAdminCmd(XmlCmdAdmin::AdminQueryVersion))>>
+    : std::true_type {
+};
+
 void AdmincommandTest::interface()
 {
+    static_assert(!HasSetAdminCmd<XmlCmdAdmin>::value); // the kind is set by reading alone
     static_assert(std::is_base_of_v<XmlElementBase, XmlCmdAdmin>);
     static_assert(XmlCmdAdmin::AdminUndefined == 0);
     static_assert(XmlCmdAdmin::AdminQueryVersion == 1);

@@ -1207,9 +1207,12 @@ private Q_SLOTS:
         QVERIFY(assigned.items().at(0) != list.items().at(0));
         QCOMPARE(Held::alive, 8);
 
+        // Assigned to itself, it keeps its very objects: pointers handed out stay good.
         const OwnedList<Held>& self = assigned;
+        const QList<Held*> handedOut = assigned.items();
         assigned = self;
         QCOMPARE(valuesOf(assigned), (QVector<int>{9, 2, 7}));
+        QCOMPARE(assigned.items(), handedOut);
         QCOMPARE(Held::alive, 8);
 
         assigned = OwnedList<Held>(copy); // by a move

@@ -252,6 +252,8 @@ void GeometryTest::versionIsRead_data()
         << QStringLiteral(" version=\"1\"") << QStringLiteral("1") << QStringLiteral("Version not supported: 1.");
     QTest::newRow("a version with a blank") << QStringLiteral(" version=\" 1.0\"") << QStringLiteral(" 1.0")
                                             << QStringLiteral("Version not supported:  1.0.");
+    QTest::newRow("a version of nothing but a blank")
+        << QStringLiteral(" version=\" \"") << QStringLiteral(" ") << QStringLiteral("Version not supported:  .");
     QTest::newRow("a version like a place marker")
         << QStringLiteral(" version=\"%4\"") << QStringLiteral("%4") << QStringLiteral("Version not supported: %4.");
     QTest::newRow("a version under another name") << QStringLiteral(" Version=\"2.0\"") << v1 << QString();
@@ -695,6 +697,7 @@ void GeometryTest::vertexNumberIsRead_data()
     QTest::newRow("a number after the version") << QStringLiteral(" version=\"1.0\" number=\"5\"") << QString() << 5;
     QTest::newRow("no number") << QString() << missing << 77;
     QTest::newRow("an empty number") << QStringLiteral(" number=\"\"") << missing << 77;
+    QTest::newRow("a number of nothing but a blank") << QStringLiteral(" number=\" \"") << illegal << 0;
     QTest::newRow("a number under another name") << QStringLiteral(" Number=\"5\"") << missing << 77;
     QTest::newRow("x1") << QStringLiteral(" number=\"x1\"") << illegal << 0;
     QTest::newRow("1.5") << QStringLiteral(" number=\"1.5\"") << illegal << 0;

@@ -319,6 +319,8 @@ private Q_SLOTS:
                              << QStringLiteral("<F version=\"1.0\" unit=\"MHz\">2.400000</F>");
         QTest::newRow("GHz") << 2.4 << QStringLiteral("GHz")
                              << QStringLiteral("<F version=\"1.0\" unit=\"GHz\">0.002400</F>");
+        QTest::newRow("GHz, to the last decimal")
+            << 123456.789 << QStringLiteral("GHz") << QStringLiteral("<F version=\"1.0\" unit=\"GHz\">123.456789</F>");
         QTest::newRow("an unknown unit scales nothing")
             << 2.4 << QStringLiteral("THz") << QStringLiteral("<F version=\"1.0\" unit=\"THz\">2.400000</F>");
         QTest::newRow("the letters of units are compared exactly")
@@ -553,6 +555,11 @@ private Q_SLOTS:
             : isRead                              ? QStringLiteral(" unit=\"parsec\"")
                                                   : QStringLiteral(" unit=\"%1\"").arg(ownUnit);
         QVERIFY(quantity->write().startsWith(QStringLiteral("<Q version=\"2\"%1>").arg(unitWritten)));
+        // Blanks are a text like any other.
+        QCOMPARE(quantity->read(QStringLiteral("<Q version=\" \" unit=\"  \"/>")), QString());
+        QCOMPARE(quantity->unit(), isRead ? QStringLiteral("  ") : ownUnit);
+        QCOMPARE(quantity->version(), QStringLiteral(" "));
+        QCOMPARE(quantity->read(QStringLiteral("<Q unit=\"parsec\"/>")), QString());
         if (isRead) {
             QVERIFY(!quantity->read(QStringLiteral("<Q/>")).isEmpty());
             QCOMPARE(quantity->unit(), QStringLiteral("parsec")); // kept when missing

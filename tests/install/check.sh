@@ -3,7 +3,7 @@
 # with CMake, with pkg-config, and the first program of the README, copied from the page.
 set -euo pipefail
 
-source_dir=$1 build_dir=$2 work_dir=$3 compiler=$4 sanitizers=$5
+source_dir=$1 build_dir=$2 work_dir=$3 compiler=$4 generator=$5 sanitizers=$6
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 flags=()
 if [ -n "$sanitizers" ]; then
@@ -37,7 +37,7 @@ expect "Qt Core and Network are all of Qt it needs" "libQt5Core.so.5 libQt5Netwo
 
 frequency='<Frequency version="1.0" unit="kHz">2400.000000</Frequency>'
 
-cmake -S "$here/cmake" -B "$work_dir/cmake-build" -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_CXX_COMPILER="$compiler" \
+cmake -S "$here/cmake" -B "$work_dir/cmake-build" -G "$generator" -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_CXX_COMPILER="$compiler" \
     -DCMAKE_CXX_FLAGS="${flags[*]-}" >"$work_dir/cmake.log"
 cmake --build "$work_dir/cmake-build" >>"$work_dir/cmake.log"
 expect "a CMake project finds and links it" "$frequency" "$("$work_dir/cmake-build/outside")"

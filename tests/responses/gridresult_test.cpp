@@ -239,6 +239,8 @@ private Q_SLOTS:
     void writtenResult();
     void checkedResult_data();
     void checkedResult();
+    void checkedUnknownType_data();
+    void checkedUnknownType();
     void typeRead_data();
     void typeRead();
     void wrappers_data();
@@ -537,6 +539,30 @@ void GridresultTest::checkedResult()
     QCOMPARE(result.isValid(), agrees && invalidSets == 0 && hasFilename);
     QCOMPARE(result.syntaxError(), error);
     QCOMPARE(result.syntaxError(), error);
+}
+
+// A type beyond the known ones has no parameters that could be its own, and no message either.
+void GridresultTest::checkedUnknownType_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<bool>("hasSet");
+    for (const int type : {-1, 6, 99}) {
+        QTest::addRow("type %d with a set", type) << type << true;
+        QTest::addRow("type %d without a set", type) << type << false;
+    }
+}
+
+void GridresultTest::checkedUnknownType()
+{
+    QFETCH(int, type);
+    QFETCH(bool, hasSet);
+    Result result;
+    result.setType(static_cast<Result::ResultType>(type));
+    result.setScreenshotFilename(QStringLiteral("f.png"));
+    if (hasSet)
+        setParameters(result, 0, QStringLiteral("n"));
+    QVERIFY(!result.isValid());
+    QCOMPARE(result.syntaxError(), QString());
 }
 
 void GridresultTest::typeRead_data()
