@@ -2,12 +2,13 @@
 
 #include "arvxml/admincommand.h"
 #include "arvxml/calccommand.h"
+#include "arvxml/createdelete.h"
 
 namespace ArvXml {
 
 /// The document element of a command document: an optional envelope, then the commands, each kind in
 /// a block of its own: `<Commands><ORDER_DEF>...</ORDER_DEF><Administrative>...</Administrative>
-/// <Calculate>...</Calculate></Commands>`. The caller chooses its tag.
+/// <Create>...</Create><Delete>...</Delete><Calculate>...</Calculate></Commands>`. The caller chooses its tag.
 ///
 /// A root is filled by reading or copying only: a program that writes commands writes the document
 /// element itself, with the envelope and the commands as children. Each command read gets a copy of
@@ -25,18 +26,24 @@ public:
     /// The commands of a kind in the order of the document. They belong to the root and live until it
     /// is reset, assigned to or destroyed.
     const QList<XmlCmdAdmin*> getAdministrativeCmds() const { return m_administrative.items(); }
+    const QList<XmlCmdCreate*> getCreateCmds() const { return m_creates.items(); }
+    /// The delete commands; the root neither judges nor reports them.
+    const QList<XmlCmdDelete*> getDeleteCmds() const { return m_deletes.items(); }
     const QList<XmlCmdCalc*> getCalculationCmds() const { return m_calculations.items(); }
 
 protected:
     const ElementForm& form() const override;
 
 private:
-    /// Commands of one kind.
+    /// Commands of one kind, each handed a copy of the envelope.
     template <auto Member>
     static Content commands();
+    void handEnvelope(XmlCommand& command) const;
 
     OptionalChild<XmlOrderDef> m_orderDef;
     OwnedList<XmlCmdAdmin> m_administrative;
+    OwnedList<XmlCmdCreate> m_creates;
+    OwnedList<XmlCmdDelete> m_deletes;
     OwnedList<XmlCmdCalc> m_calculations;
 };
 

@@ -2,6 +2,7 @@
 
 #include "arvxml/automaticresponse.h"
 #include "arvxml/element.h"
+#include "arvxml/interactiveresponse.h"
 #include "arvxml/orderdef.h"
 
 #include <QtCore/QDateTime>
@@ -10,12 +11,14 @@ namespace ArvXml {
 
 /// The document element of a response: `<Response type="automatic" final="false"
 /// timestamp="2024-03-05T14:07:09"><ORDER_DEF>...</ORDER_DEF><Automatic status="ack">...</Automatic>
-/// </Response>`. The caller chooses its tag.
+/// </Response>`, or with "Interactive" for "Automatic". The caller chooses its tag.
 ///
 /// All three attributes are required; each that is missing or wrong is the reader error "Illegal
 /// attribute value in "NAME"", and of several the last one is reported. Whether type and content agree
-/// is not seen while reading, but judged. A new root is invalid until it has a type and the content of
-/// that type.
+/// is not seen while reading, but judged. Setting one kind of content leaves the other. A new root is
+/// invalid until it has a type and the content of that type ("Type automatic but no content", "Type
+/// automatic but interactive content", and the like). A type beyond the known ones is not judged against
+/// the content.
 class ARVXML_EXPORT XmlRespRoot : public XmlComposite {
 public:
     /// Texts "interactive" and "automatic", read exactly so.
@@ -26,6 +29,7 @@ public:
     };
 
     XmlRespRoot();
+    /// An undefined type is written as "UNDEFINED", which no reader accepts ("Type not defined.").
     RespType type() const { return m_type; }
     void setType(RespType type) { m_type = type; }
 
@@ -35,7 +39,8 @@ public:
     void setFinal(bool last) { m_final = last; }
 
     /// When the response was made, in ISO 8601 on the wire, to the second; the local time of
-    /// construction by default.
+    /// construction by default. A text of another form is stored as an invalid time, and an invalid time
+    /// is written as an empty text.
     const QDateTime& timestamp() const { return m_timestamp; }
     void setTimestamp(const QDateTime& timestamp) { m_timestamp = timestamp; }
 
@@ -49,11 +54,16 @@ public:
     const XmlAutoRespType* autoResp() const { return m_automatic.get(); }
     void setAutoResp(const XmlAutoRespType& response) { m_automatic.set(response); }
 
+    bool hasInteractResp() const { return m_interactive.isPresent(); }
+    /// A result delivered on the service's own account, null when absent.
+    const XmlInteractRespType* interactResp() const { return m_interactive.get(); }
+    void setInteractResp(const XmlInteractRespType& response) { m_interactive.set(response); }
+
     bool isValid() const override;
-    QString syntaxError() override;
     void reset() override;
 
 protected:
+    void addErrors() override;
     const ElementForm& form() const override;
     quint32 openElement(ElementReader& in) override;
     void writeAttributes(QXmlStreamWriter& writer) const override;
@@ -66,6 +76,7 @@ private:
     QDateTime m_timestamp;
     OptionalChild<XmlOrderDef> m_orderDef;
     OptionalChild<XmlAutoRespType> m_automatic;
+    OptionalChild<XmlInteractRespType> m_interactive;
 };
 
 } // namespace ArvXml

@@ -9,6 +9,12 @@ XmlCmdRoot::XmlCmdRoot()
 {
 }
 
+void XmlCmdRoot::handEnvelope(XmlCommand& command) const
+{
+    if (hasOrderDef())
+        command.setOrderDef(*orderDef());
+}
+
 template <auto Member>
 Content XmlCmdRoot::commands()
 {
@@ -16,9 +22,7 @@ Content XmlCmdRoot::commands()
     content.read = [](XmlElementBase& owner, ElementReader& in, const QString& tag) {
         XmlCommand& command = memberOf<Member>(owner).append();
         command.processXml(in.stream(), tag);
-        const auto& root = static_cast<const XmlCmdRoot&>(owner);
-        if (root.hasOrderDef())
-            command.setOrderDef(*root.orderDef());
+        static_cast<const XmlCmdRoot&>(owner).handEnvelope(command);
     };
     return content;
 }
@@ -26,13 +30,16 @@ Content XmlCmdRoot::commands()
 const ElementForm& XmlCmdRoot::form() const
 {
     using Self = XmlCmdRoot;
-    enum : Marks { Envelope = 1, Administrative = 2, Calculate = 4 };
-    constexpr Marks Commands = Administrative | Calculate;
+    enum : Marks { Envelope = 1, Administrative = 2, Create = 4, Delete = 8, Calculate = 16 };
     static const ElementForm form =
         ElementForm(compositeWording)
             .children({
-                {"ORDER_DEF", Envelope, Envelope | Commands, renewed<&Self::m_orderDef>()},
-                {"Administrative", Administrative, Calculate, commands<&Self::m_administrative>()},
+                {"ORDER_DEF", Envelope, Envelope | Administrative | Create | Delete | Calculate,
+                 renewed<&Self::m_orderDef>()},
+                {"Administrative", Administrative, Create | Delete | Calculate, commands<&Self::m_administrative>()},
+                {"Create", Create, Delete | Calculate, commands<&Self::m_creates>()},
+                // Delete commands are neither judged nor reported here.
+                {"Delete", Delete, Calculate, unjudged(reportedApart(commands<&Self::m_deletes>()))},
                 {"Calculate", Calculate, 0, commands<&Self::m_calculations>()},
             })
             .completeWith(0);

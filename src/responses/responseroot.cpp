@@ -39,6 +39,7 @@ const ElementForm& XmlRespRoot::form() const
                                         .children({
                                             {"ORDER_DEF", 0, 0, renewed<&Self::m_orderDef>()},
                                             {"Automatic", Answer, Answer, renewed<&Self::m_automatic>()},
+                                            {"Interactive", Answer, Answer, renewed<&Self::m_interactive>()},
                                         })
                                         .completeWith(0);
     return form;
@@ -86,26 +87,30 @@ bool XmlRespRoot::isValid() const
     case RespUndefined:
         return false;
     case RespAutomatic:
-        return hasAutoResp() && m_automatic.get()->isValid();
+        return hasAutoResp() && !hasInteractResp() && m_automatic.get()->isValid();
     case RespInteractive:
-        return false; // there is no interactive content to hold
+        return hasInteractResp() && !hasAutoResp() && m_interactive.get()->isValid();
     }
     return true; // a type beyond the known ones is not checked against the content
 }
 
-QString XmlRespRoot::syntaxError()
+void XmlRespRoot::addErrors()
 {
-    clearSyntaxError();
     if (m_type == RespUndefined)
         addSyntaxError(QStringLiteral("Type not defined."));
     else if (m_type == RespAutomatic && !hasAutoResp())
         addSyntaxError(QStringLiteral("Type automatic but no content"));
+    else if (m_type == RespAutomatic && hasInteractResp())
+        addSyntaxError(QStringLiteral("Type automatic but interactive content"));
     else if (m_type == RespAutomatic)
         addSyntaxError(memberError(m_automatic));
-    else if (m_type == RespInteractive)
+    else if (m_type == RespInteractive && !hasInteractResp())
         addSyntaxError(QStringLiteral("Type interactive but no content"));
+    else if (m_type == RespInteractive && hasAutoResp())
+        addSyntaxError(QStringLiteral("Type interactive but automatic content"));
+    else if (m_type == RespInteractive)
+        addSyntaxError(memberError(m_interactive));
     addSyntaxError(memberError(m_orderDef));
-    return mySyntaxError();
 }
 
 void XmlRespRoot::reset()

@@ -1,0 +1,117 @@
+#pragma once
+
+#include "arvxml/element.h"
+#include "arvxml/geometry.h"
+#include "arvxml/names.h"
+#include "arvxml/quantities.h"
+#include "arvxml/signalpaths.h"
+
+namespace ArvXml {
+
+/// The base of the named regions of a plan: a name, and as region either a rectangle or a polygon.
+///
+/// Setting or reading one of the two removes the other. With neither the problem reads "Neither
+/// AreaRect nor AreaPolygon"; so it would with both. On the wire the region may come before the name,
+/// after which the name is refused.
+class ARVXML_EXPORT XmlPlanArea : public XmlVersionedComposite {
+public:
+    const XmlObjNameType* objName() const { return &m_objName; }
+    void setObjName(const XmlObjNameType& objName) { m_objName = objName; }
+
+    bool hasAreaRect() const { return m_areaRect.isPresent(); }
+    /// The rectangle, null when absent.
+    const XmlAreaRectType* areaRect() const { return m_areaRect.get(); }
+    void setAreaRect(const XmlAreaRectType& rectangle);
+
+    bool hasAreaPoly() const { return m_areaPoly.isPresent(); }
+    /// The polygon, null when absent.
+    const XmlAreaPolyType* areaPoly() const { return m_areaPoly.get(); }
+    void setAreaPoly(const XmlAreaPolyType& polygon);
+
+protected:
+    using XmlVersionedComposite::XmlVersionedComposite;
+
+    /// The rectangle's child; it judges and reports the choice.
+    static Content areaRectChild();
+    /// The polygon's child, judged with the rectangle's.
+    static Content areaPolyChild();
+
+    XmlObjNameType m_objName;
+
+private:
+    OptionalChild<XmlAreaRectType> m_areaRect;
+    OptionalChild<XmlAreaPolyType> m_areaPoly;
+};
+
+/// A region in which sensors may be placed, and what is assumed for them there:
+/// `<DeploymentArea version="1.0"><SignalPath>...</SignalPath><Name>...</Name><AreaRect>...</AreaRect>
+/// <AntennaHeight .../><RxThreshold .../><Frequency .../><TxPower .../></DeploymentArea>`, with
+/// "AreaPolygon" for "AreaRect" as the case may be. Only the signal path is optional. Another version
+/// than "1.0" is refused while reading.
+class ARVXML_EXPORT XmlDeploymentAreaType : public XmlPlanArea {
+public:
+    XmlDeploymentAreaType();
+
+    bool hasSignalPath() const { return m_signalPath.isPresent(); }
+    /// The signal path of the sensors, null when absent.
+    const XmlSignalPathType* signalPath() const { return m_signalPath.get(); }
+    void setSignalPath(const XmlSignalPathType& signalPath) { m_signalPath.set(signalPath); }
+
+    /// The height of the sensors' antennas.
+    const XmlLengthType* antHgt() const { return &m_antennaHeight; }
+    /// Spelled "Angt".
+    void setAngtHgt(const XmlLengthType& height) { m_antennaHeight = height; }
+
+    /// The threshold of the sensors' receivers.
+    const XmlFieldstrengthType* rxThresh() const { return &m_rxThreshold; }
+    void setRxThresh(const XmlFieldstrengthType& threshold) { m_rxThreshold = threshold; }
+
+    /// The frequency on which the sensors transmit.
+    const XmlFreqType* txFreq() const { return &m_txFrequency; }
+    void setTxFreq(const XmlFreqType& frequency) { m_txFrequency = frequency; }
+
+    /// The power with which the sensors transmit.
+    const XmlPowerType* txPower() const { return &m_txPower; }
+    void setTxPower(const XmlPowerType& power) { m_txPower = power; }
+
+protected:
+    const ElementForm& form() const override;
+
+private:
+    OptionalChild<XmlSignalPathType> m_signalPath;
+    XmlLengthType m_antennaHeight;
+    XmlFieldstrengthType m_rxThreshold;
+    XmlFreqType m_txFrequency;
+    XmlPowerType m_txPower;
+};
+
+/// A region to be covered (area of interest), and what is assumed for the emitters in it:
+/// `<AOI version="1.0"><Name>...</Name><AreaPolygon>...</AreaPolygon><TxParameter>...</TxParameter>
+/// <RxThreshold .../></AOI>`, with "AreaRect" for "AreaPolygon" as the case may be. Only the threshold
+/// is optional. Another version than "1.0" is refused while reading.
+class ARVXML_EXPORT XmlAoiType : public XmlPlanArea {
+public:
+    XmlAoiType();
+
+    /// The parameters of the emitters.
+    const XmlTxParamType* txParam() const { return &m_txParam; }
+    void setTxParam(const XmlTxParamType& parameters) { m_txParam = parameters; }
+
+    bool hasRxThreshold() const { return m_rxThreshold.isPresent(); }
+    /// The threshold of the receivers, null when absent; with a capital R.
+    const XmlFieldstrengthType* RxThres() const { return m_rxThreshold.get(); }
+    void setRxThres(const XmlFieldstrengthType& threshold);
+
+    /// As elsewhere, but a threshold held is reset and let go without being destroyed: it then belongs
+    /// to whoever kept its pointer.
+    void reset() override;
+
+protected:
+    const ElementForm& form() const override;
+
+private:
+    XmlTxParamType m_txParam;
+    OptionalChild<XmlFieldstrengthType> m_rxThreshold;
+};
+
+} // namespace ArvXml

@@ -1,0 +1,69 @@
+#include "arvxml/emitters.h"
+
+#include "core/elementform.h"
+#include "core/quantity.h"
+
+namespace ArvXml {
+
+static const QuantityRules& dfPrecisionRules()
+{
+    static const QuantityRules rules = {
+        QString(QChar(0x00B0)),
+        -2.0,
+        QuantityRules::Integer,
+        {'f', 0},
+        [](double value) { return value >= -1.0; },
+        [](double value) { return value < -1.0; },
+        "XmlDfPrecisionType: Illegal precision.",
+        "XmlDfPrecisionType: Illegal unit.",
+    };
+    return rules;
+}
+
+XmlDfPrecisionType::XmlDfPrecisionType()
+    : XmlReadUnitQuantity(QStringLiteral("XmlDfPrecisionType"), dfPrecisionRules())
+{
+}
+
+const QuantityRules& XmlDfPrecisionType::rules() const
+{
+    return dfPrecisionRules();
+}
+
+XmlEmitterType::XmlEmitterType()
+    : XmlSite(QStringLiteral("XmlEmitterType"))
+{
+}
+
+const ElementForm& XmlEmitterType::form() const
+{
+    static const ElementForm form = ElementForm(listWording)
+                                        .sequence({
+                                            required("Name", child<&XmlEmitterType::m_objName>()),
+                                            required("Position", child<&XmlEmitterType::m_position>()),
+                                            required("TxParameter", child<&XmlEmitterType::m_txParam>()),
+                                        })
+                                        .refusesOtherVersions();
+    return form;
+}
+
+XmlDfType::XmlDfType()
+    : XmlSite(QStringLiteral("XmlDfType"))
+{
+}
+
+const ElementForm& XmlDfType::form() const
+{
+    static const ElementForm form = ElementForm(listWording)
+                                        .sequence({
+                                            required("Name", child<&XmlDfType::m_objName>()),
+                                            required("Position", child<&XmlDfType::m_position>()),
+                                            required("RxParameter", child<&XmlDfType::m_rxParam>()),
+                                            required("DFprecision", child<&XmlDfType::m_dfPrecision>()),
+                                            optional("StationInterlink", renewed<&XmlDfType::m_interlink>()),
+                                        })
+                                        .refusesOtherVersions();
+    return form;
+}
+
+} // namespace ArvXml
