@@ -1,7 +1,9 @@
 #include "common/document.h"
 
+#include <arvxml/commandroot.h>
 #include <arvxml/element.h>
 
+#include <QtCore/QStringList>
 #include <QtCore/QXmlStreamReader>
 #include <QtCore/QXmlStreamWriter>
 
@@ -38,6 +40,24 @@ ReadError read(const QByteArray& document, ArvXml::IXmlElement& root)
     if (!reader.hasError())
         return {};
     return {reader.errorString(), reader.lineNumber(), reader.columnNumber()};
+}
+
+QString problems(ArvXml::IXmlElement& root)
+{
+    QStringList texts;
+    const auto judge = [&texts](ArvXml::IXmlElement& element) {
+        if (element.isValid())
+            return;
+        // Some values that are not acceptable have no message, such as a frequency that is not a number.
+        const QString text = element.syntaxError();
+        texts.append(text.isEmpty() ? QStringLiteral("Some value is not acceptable.") : text);
+    };
+    judge(root);
+    if (const auto* commands = dynamic_cast<const ArvXml::XmlCmdRoot*>(&root)) {
+        for (ArvXml::XmlCmdDelete* command : commands->getDeleteCmds())
+            judge(*command);
+    }
+    return texts.join(QLatin1Char('\n'));
 }
 
 QByteArray written(const ArvXml::IXmlElement& root, const QString& tag, bool indent)

@@ -36,8 +36,12 @@ bool goToRoot(QXmlStreamReader& reader);
 /// behind it would go unnoticed otherwise.
 ///
 /// A document that could be read is well-formed and has the shape of the protocol. Whether its values
-/// are acceptable is the next question; ask root.isValid() and root.syntaxError().
+/// are acceptable is the next question, see problems().
 ReadError read(const QByteArray& document, ArvXml::IXmlElement& root);
+
+/// What is not acceptable in \a root, with that of the delete commands of a command document, which the
+/// root itself leaves out. Empty when all is well, and never empty when something is wrong.
+QString problems(ArvXml::IXmlElement& root);
 
 /// \a root as a document whose document element has the tag \a tag. Indenting is for human readers: it
 /// adds white space, which a few elements refuse.

@@ -133,8 +133,9 @@ Status inspect(const QString& fileName, const Settings& settings)
     }
     if (settings.rewrite)
         std::printf("%s\n", Document::written(*root, outline.tag, settings.indent).trimmed().constData());
-    if (!root->isValid())
-        return report(NotAcceptable, QStringLiteral("%1, not acceptable:\n%2").arg(name, root->syntaxError()));
+    const QString problems = Document::problems(*root);
+    if (!problems.isEmpty())
+        return report(NotAcceptable, QStringLiteral("%1, not acceptable:\n%2").arg(name, problems));
     return report(Acceptable, QStringLiteral("%1, acceptable").arg(name));
 }
 
@@ -152,7 +153,8 @@ int main(int argc, char* argv[])
     parser.addHelpOption();
     const QCommandLineOption rewriteOption(
         QStringLiteral("rewrite"),
-        QStringLiteral("Write each document that could be read to the standard output, and the report elsewhere."));
+        QStringLiteral("Write each document that could be read to the standard output, and the report elsewhere. Some "
+                       "elements are written otherwise than they are read: not every document can be read again."));
     const QCommandLineOption indentOption(QStringLiteral("indent"), QStringLiteral("Indent what is rewritten."));
     parser.addOptions({rewriteOption, indentOption});
     parser.addPositionalArgument(QStringLiteral("files"), QStringLiteral("The files."), QStringLiteral("files..."));

@@ -86,13 +86,54 @@ QString interlinkText(const XmlInterlinkResultType& result)
     return text;
 }
 
+template <typename Site>
+QString siteText(const QString& kind, const Site& site)
+{
+    return QStringLiteral("%1 %2\n  longitude %3, latitude %4\n")
+        .arg(kind, site.objName()->objName())
+        .arg(site.position()->longitude(), 0, 'f', 6)
+        .arg(site.position()->latitude(), 0, 'f', 6);
+}
+
+QString objectText(const XmlResultObjectType& object)
+{
+    if (object.hasStation())
+        return siteText(QStringLiteral("station"), *object.station());
+    if (object.hasEmitter())
+        return siteText(QStringLiteral("emitter"), *object.emitter());
+    if (object.hasRx())
+        return siteText(QStringLiteral("receiver"), *object.rx());
+    if (object.hasDf())
+        return siteText(QStringLiteral("direction finder"), *object.df());
+    return QStringLiteral("nothing\n");
+}
+
+/// The grid result of \a root, null when there is none.
+const XmlGridResultType* gridResultOf(const XmlRespRoot& root)
+{
+    if (root.hasInteractResp())
+        return root.interactResp()->gridResult();
+    return root.hasAutoResp() ? root.autoResp()->gridResult() : nullptr;
+}
+
 /// Whether reading ended where the protocol makes it end in every grid result: behind the parameters.
 /// What was read until there is good.
 bool endsAtGridParameters(const XmlRespRoot& root, const Document::ReadError& error)
 {
-    return root.hasAutoResp() && root.autoResp()->hasGridResult()
-        && error.text.endsWith(QLatin1String("Unexpected token \"EndElement\": Parameter."))
-        && root.autoResp()->status() == XmlAutoRespType::StatusAck;
+    if (!gridResultOf(root) || !error.text.endsWith(QLatin1String("Unexpected token \"EndElement\": Parameter.")))
+        return false;
+    if (root.hasInteractResp())
+        return root.type() == XmlRespRoot::RespInteractive;
+    return root.type() == XmlRespRoot::RespAutomatic && root.autoResp()->status() == XmlAutoRespType::StatusAck;
+}
+
+/// Whether reading ended where the protocol makes it end in every result object: at its end tag. What
+/// was read until there can be judged as usual.
+bool endsBehindObject(const XmlRespRoot& root, const Document::ReadError& error)
+{
+    return root.hasInteractResp() && root.interactResp()->hasResult()
+        && error.text.startsWith(QLatin1String("in XmlResultObjectType "))
+        && error.text.endsWith(QLatin1String("Unexpected token \"EndElement\": Station."));
 }
 
 QString indented(QString text)
@@ -112,30 +153,48 @@ Answer understand(const QByteArray& response)
     if (root.hasAutoResp())
         answer.reference = root.autoResp()->reference().reference();
 
+    // What the service sends on its own account says nothing about the order under way.
+    const Answer::Verdict good = root.hasInteractResp() ? Answer::Delivered
+        : root.isFinal()                                ? Answer::Done
+                                                        : Answer::Acknowledged;
+    const bool endsByRule = endsBehindObject(root, error);
+
     if (endsAtGridParameters(root, error)) {
-        answer.verdict = root.isFinal() ? Answer::Done : Answer::Acknowledged;
+        answer.verdict = good;
         answer.text = QStringLiteral("Grid result: %1"
                                      "  The reader stops here: the protocol does not let it read a grid result beyond\n"
                                      "  its parameters, so the name of the picture is not known. This is no failure.\n")
-                          .arg(gridText(*root.autoResp()->gridResult()));
-    } else if (error) {
+                          .arg(gridText(*gridResultOf(root)));
+    } else if (error && !endsByRule) {
         answer.text = QStringLiteral("The response cannot be read (line %1, column %2):\n%3")
                           .arg(error.line)
                           .arg(error.column)
                           .arg(indented(error.text));
     } else if (!root.isValid()) {
-        answer.text = QStringLiteral("The response is not acceptable:\n") + indented(root.syntaxError());
-    } else if (!root.hasAutoResp()) {
-        answer.text = QStringLiteral("The response is not an answer to a command.\n");
+        answer.text = QStringLiteral("The response is not acceptable:\n") + indented(Document::problems(root));
+    } else if (endsByRule) {
+        answer.verdict = good;
+        answer.text =
+            QStringLiteral("Delivered by the service on its own: %1"
+                           "  The reader stops here: by the protocol, reading a delivered object always ends with\n"
+                           "  an error at its end tag. The object was read; this is no failure.\n")
+                .arg(objectText(*root.interactResp()->result()));
+    } else if (root.hasInteractResp()) {
+        answer.verdict = good;
+        if (root.interactResp()->hasInterlinkResult())
+            answer.text = QStringLiteral("Delivered by the service on its own: ")
+                + interlinkText(*root.interactResp()->interlinkResult());
     } else {
         const XmlAutoRespType& automatic = *root.autoResp();
-        answer.verdict = root.isFinal() ? Answer::Done : Answer::Acknowledged;
+        answer.verdict = good;
         if (automatic.hasErrorMessage()) {
             answer.verdict = Answer::Refused;
             answer.text = QStringLiteral("Fault:\n") + indented(automatic.errorMessage());
         } else if (automatic.hasEstimatedTime()) {
-            answer.text =
-                QStringLiteral("Result expected at %1\n").arg(automatic.estimatedTime().toString(Qt::ISODate));
+            // There is no answer that says "done": a last one with a time means it.
+            const QString text =
+                root.isFinal() ? QStringLiteral("Done at %1\n") : QStringLiteral("Result expected at %1\n");
+            answer.text = text.arg(automatic.estimatedTime().toString(Qt::ISODate));
         } else if (automatic.hasArvVersion()) {
             answer.text = QStringLiteral("Version of the service: %1\n").arg(automatic.arvVersion());
         } else if (automatic.hasInterlinkResult()) {

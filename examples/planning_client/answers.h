@@ -7,6 +7,7 @@
 struct Answer {
     enum Verdict {
         Acknowledged, ///< the order is accepted, the result is yet to come
+        Delivered,    ///< no answer to a command, but something the service sends on its own
         Done,         ///< the order is carried out
         Refused,      ///< the service reports a fault
         Unacceptable, ///< the response itself is no good

@@ -1,7 +1,8 @@
-// An example client: sends one order to the service and tells what comes back.
+// An example client: sends an order, or the commands of a file, to the service and tells what comes back.
 
 #include "common/framing.h"
 #include "planning_client/answers.h"
+#include "planning_client/commandfile.h"
 #include "planning_client/orders.h"
 
 #include <QtCore/QCommandLineParser>
@@ -54,9 +55,10 @@ int tell(const Answer& answer, const Order& order)
     }
 }
 
-/// Sends \a order and tells the answers, until \a finalAnswers of them were final.
-int converse(const Order& order, quint16 port, int finalAnswers, QDeadlineTimer deadline)
+/// Sends \a order and tells the answers, until each of its commands has got the final one.
+int converse(const Order& order, quint16 port, QDeadlineTimer deadline)
 {
+    int finalAnswers = order.commandCount;
     const auto remaining = [&deadline] { return static_cast<int>(deadline.remainingTime()); };
     QTcpSocket socket;
     socket.setProxy(QNetworkProxy::NoProxy);
@@ -78,7 +80,7 @@ int converse(const Order& order, quint16 port, int finalAnswers, QDeadlineTimer 
             status = std::max(status, tell(answer, order));
             if (status == Failed)
                 return Failed;
-            if (answer.verdict != Answer::Acknowledged)
+            if (answer.verdict == Answer::Done || answer.verdict == Answer::Refused)
                 --finalAnswers;
         }
     }
@@ -102,7 +104,9 @@ int main(int argc, char* argv[])
                        "  bestsensor [SENSOR...]  best sensor coverage\n"
                        "  findsites [AREA...]     possible sites in deployment areas\n"
                        "  version                 ask for the version of the service\n\n"
-                       "No names mean all. Exit status: 0 carried out, 1 not acceptable, 2 no proper conversation."));
+                       "No names mean all. Instead of an order, --commands sends the commands of a file, for example\n"
+                       "those that create and delete the objects of a plan.\n\n"
+                       "Exit status: 0 carried out, 1 not acceptable, 2 no proper conversation."));
     parser.addHelpOption();
     const QCommandLineOption portOption(QStringLiteral("port"), QStringLiteral("The service's <port>."),
                                         QStringLiteral("port"));
@@ -121,8 +125,12 @@ int main(int argc, char* argv[])
     const QCommandLineOption emittersOption(QStringLiteral("random-emitters"),
                                             QStringLiteral("Find sites against <n> emitters on a grid, 0 to 500."),
                                             QStringLiteral("n"), QStringLiteral("-1"));
+    const QCommandLineOption commandsOption(
+        QStringLiteral("commands"),
+        QStringLiteral("Send the commands of <file>, a command document, in an envelope of our own."),
+        QStringLiteral("file"));
     const QCommandLineOption rawOption(QStringLiteral("raw"),
-                                       QStringLiteral("Send the bytes of <file> as they are, instead of an order."),
+                                       QStringLiteral("Send the bytes of <file> as they are, good or bad."),
                                        QStringLiteral("file"));
     const QCommandLineOption answersOption(QStringLiteral("answers"),
                                            QStringLiteral("With --raw: wait for <n> final answers (default: 1)."),
@@ -130,7 +138,7 @@ int main(int argc, char* argv[])
     const QCommandLineOption timeoutOption(QStringLiteral("timeout"), QStringLiteral("Wait for at most <seconds>."),
                                            QStringLiteral("seconds"), QStringLiteral("30"));
     parser.addOptions({portOption, referenceOption, areaOption, gridOption, probabilityOption, emittersOption,
-                       rawOption, answersOption, timeoutOption});
+                       commandsOption, rawOption, answersOption, timeoutOption});
     parser.addPositionalArgument(QStringLiteral("kind"), QStringLiteral("The kind of the order, see above."));
     parser.addPositionalArgument(QStringLiteral("names"), QStringLiteral("Names of objects."),
                                  QStringLiteral("[names...]"));
@@ -149,27 +157,30 @@ int main(int argc, char* argv[])
     wish.probability = parser.value(probabilityOption);
     wish.randomEmitters = parser.value(emittersOption).toInt(&numbersOk[3]);
     const bool isRaw = parser.isSet(rawOption);
+    const bool isFile = isRaw || parser.isSet(commandsOption);
+    const bool isClear = isFile == wish.kind.isEmpty() && !(isRaw && parser.isSet(commandsOption));
     for (const bool ok : numbersOk) {
-        if (!ok || seconds <= 0 || isRaw != wish.kind.isEmpty())
+        if (!ok || seconds <= 0 || !isClear)
             return fail(parser.helpText());
     }
 
+    QFile file(parser.value(isRaw ? rawOption : commandsOption));
+    if (isFile && !file.open(QIODevice::ReadOnly))
+        return fail(QStringLiteral("Cannot read %1: %2").arg(file.fileName(), file.errorString()));
     Order order;
     if (isRaw) {
-        QFile file(parser.value(rawOption));
-        if (!file.open(QIODevice::ReadOnly))
-            return fail(QStringLiteral("Cannot read %1: %2").arg(file.fileName(), file.errorString()));
         order.document = file.readAll();
+        order.commandCount = finalAnswers;
         say(QStringLiteral("Sending %1 as it is.\n").arg(file.fileName()));
     } else {
-        order = makeOrder(wish);
+        order = isFile ? orderFrom(file.readAll()) : makeOrder(wish);
         if (!order.problem.isEmpty()) {
             fail(QStringLiteral("The order is not sent, it is not acceptable:\n%1").arg(order.problem));
             return Refused;
         }
-        say(QStringLiteral("Sending order %1: %2 %3\n")
-                .arg(order.id, wish.kind, wish.names.join(QStringLiteral(", ")))
-                .replace(QLatin1String(" \n"), QLatin1String("\n")));
+        const QString what = isFile ? QStringLiteral("%1 commands of %2").arg(order.commandCount).arg(file.fileName())
+                                    : (wish.kind + QLatin1Char(' ') + wish.names.join(QStringLiteral(", "))).trimmed();
+        say(QStringLiteral("Sending order %1: %2\n").arg(order.id, what));
     }
-    return converse(order, port, finalAnswers, QDeadlineTimer(seconds * 1000LL));
+    return converse(order, port, QDeadlineTimer(seconds * 1000LL));
 }

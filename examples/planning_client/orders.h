@@ -20,7 +20,8 @@ struct Wish {
 struct Order {
     QString id; ///< the identifier in the envelope, by which answers are recognised
     QByteArray document;
-    QString problem; ///< why there is no document
+    int commandCount = 1; ///< each gets a final answer
+    QString problem;      ///< why there is no document
 };
 
 Order makeOrder(const Wish& wish);

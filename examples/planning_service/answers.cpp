@@ -1,6 +1,8 @@
 #include "planning_service/answers.h"
 
 #include "common/document.h"
+#include "planning_service/calculations.h"
+#include "planning_service/plan.h"
 
 #include <arvxml/arvxml.h>
 
@@ -12,6 +14,9 @@ namespace {
 
 /// How long a calculation is said to take.
 constexpr int calculationSeconds = 5;
+
+/// Every command of a bad document is answered with all that is wrong in it; so that has to be short.
+constexpr int maxProblemsLength = 4000;
 
 /// Collects the answers to one document.
 class Reply {
@@ -26,11 +31,23 @@ public:
         XmlRespRoot root;
         root.setType(XmlRespRoot::RespAutomatic);
         root.setFinal(last);
-        // An envelope that is not valid would make the response invalid, too.
-        if (m_envelope && m_envelope->isValid())
-            root.setOrderDef(*m_envelope);
         root.setAutoResp(answer);
-        m_answers.documents.append(Document::written(root, QStringLiteral("Response")));
+        append(root);
+    }
+
+    /// Adds a station that no command asked for. As nothing follows on it, it is final, although the
+    /// answer to the command under way is not.
+    void deliver(const XmlStationType& station)
+    {
+        XmlResultObjectType object;
+        object.setStation(station);
+        XmlInteractRespType content;
+        content.setResult(object);
+        XmlRespRoot root;
+        root.setType(XmlRespRoot::RespInteractive);
+        root.setFinal(true);
+        root.setInteractResp(content);
+        append(root);
     }
 
     void fault(const XmlReferenceType& reference, const QString& message)
@@ -55,6 +72,14 @@ public:
     const Answers& answers() const { return m_answers; }
 
 private:
+    void append(XmlRespRoot& root)
+    {
+        // An envelope that is not valid would make the response invalid, too.
+        if (m_envelope && m_envelope->isValid())
+            root.setOrderDef(*m_envelope);
+        m_answers.documents.append(Document::written(root, QStringLiteral("Response")));
+    }
+
     /// A response needs a reference; this one stands for a command that gave none.
     static XmlReferenceType unknownReference()
     {
@@ -75,48 +100,16 @@ XmlAutoRespType acknowledgement(const XmlReferenceType& reference)
     return answer;
 }
 
-/// The name of the next picture that the service "renders".
-QString nextScreenshot()
+/// The answer to a command that has no result. The protocol has no item that says "done": a final
+/// answer with the present time comes closest.
+XmlAutoRespType done(const XmlReferenceType& reference)
 {
-    static int number = 0;
-    return QStringLiteral("result-%1.png").arg(++number);
+    XmlAutoRespType answer = acknowledgement(reference);
+    answer.setEstimatedTime(QDateTime::currentDateTime());
+    return answer;
 }
 
-XmlInterlinkResultType planInterlink(const XmlInterlinkPlanningType& order)
-{
-    XmlInterlinkResultType result;
-    result.setParameters(order);
-    result.setResultText(
-        QStringLiteral("The link from %1 to %2 is feasible.").arg(order.firstName(), order.secondName()));
-    result.setScreenshotFilename(nextScreenshot());
-    return result;
-}
-
-/// A grid result names the kind of the calculation and repeats the order's parameters.
-XmlGridResultType calculateGrid(const XmlCmdCalc& command)
-{
-    XmlGridResultType result;
-    if (command.hasFindSites()) {
-        result.setType(XmlGridResultType::ResultFindSites);
-        result.setFindSites(*command.findSites());
-    } else if (command.hasCep()) {
-        result.setType(XmlGridResultType::ResultCep);
-        result.setCep(*command.cep());
-    } else if (command.hasDetectProb()) {
-        result.setType(XmlGridResultType::ResultDetectProb);
-        result.setDetectProb(*command.detectProb());
-    } else if (command.hasDfCov()) {
-        result.setType(XmlGridResultType::ResultDfCoverage);
-        result.setDfCov(*command.dfCov());
-    } else if (command.hasBestSensor()) {
-        result.setType(XmlGridResultType::ResultBestSensorCov);
-        result.setBestSensor(*command.bestSensor());
-    }
-    result.setScreenshotFilename(nextScreenshot());
-    return result;
-}
-
-void answer(const XmlCmdAdmin& command, Reply& reply)
+void answer(const XmlCmdAdmin& command, Plan&, Reply& reply)
 {
     XmlAutoRespType version = acknowledgement(command.cmdReference());
     version.setArvVersion(QStringLiteral("Example planning service 1.0"));
@@ -124,11 +117,39 @@ void answer(const XmlCmdAdmin& command, Reply& reply)
     reply.note(QStringLiteral("version"), command.cmdReference());
 }
 
-void answer(const XmlCmdCalc& command, Reply& reply)
+void answerChange(const XmlCommand& command, const QString& problem, const QString& what, Reply& reply)
+{
+    if (!problem.isEmpty()) {
+        reply.fault(command.cmdReference(), problem);
+        return;
+    }
+    reply.add(done(command.cmdReference()), true);
+    reply.note(what, command.cmdReference());
+}
+
+void answer(const XmlCmdCreate& command, Plan& plan, Reply& reply)
+{
+    answerChange(command, plan.create(command), QStringLiteral("created"), reply);
+}
+
+void answer(const XmlCmdDelete& command, Plan& plan, Reply& reply)
+{
+    answerChange(command, plan.remove(command), QStringLiteral("deleted"), reply);
+}
+
+void answer(const XmlCmdCalc& command, Plan& plan, Reply& reply)
 {
     XmlAutoRespType estimate = acknowledgement(command.cmdReference());
     estimate.setEstimatedTime(QDateTime::currentDateTime().addSecs(calculationSeconds));
     reply.add(estimate, false);
+
+    // No command asks for a planning object: the service delivers one on its own while it plans.
+    if (command.hasFindSites()) {
+        if (const auto station = proposeStation(*command.findSites(), plan)) {
+            reply.deliver(*station);
+            reply.note(QStringLiteral("station"), command.cmdReference());
+        }
+    }
 
     XmlAutoRespType result = acknowledgement(command.cmdReference());
     if (command.hasInterlink())
@@ -140,9 +161,23 @@ void answer(const XmlCmdCalc& command, Reply& reply)
                command.cmdReference());
 }
 
+/// Calls \a use with every command of \a root, in the order of the document.
+template <typename Use>
+void forEachCommand(const XmlCmdRoot& root, const Use& use)
+{
+    for (const XmlCmdAdmin* command : root.getAdministrativeCmds())
+        use(*command);
+    for (const XmlCmdCreate* command : root.getCreateCmds())
+        use(*command);
+    for (const XmlCmdDelete* command : root.getDeleteCmds())
+        use(*command);
+    for (const XmlCmdCalc* command : root.getCalculationCmds())
+        use(*command);
+}
+
 } // namespace
 
-Answers answersTo(const QByteArray& command)
+Answers answersTo(const QByteArray& command, Plan& plan)
 {
     XmlCmdRoot root;
     const Document::ReadError error = Document::read(command, root);
@@ -153,22 +188,15 @@ Answers answersTo(const QByteArray& command)
         return reply.answers();
     }
 
-    const QList<XmlCmdAdmin*> queries = root.getAdministrativeCmds();
-    const QList<XmlCmdCalc*> calculations = root.getCalculationCmds();
-    if (queries.isEmpty() && calculations.isEmpty()) {
+    const QString problems = Document::problems(root).left(maxProblemsLength);
+    forEachCommand(root, [&](const auto& one) {
+        if (problems.isEmpty())
+            answer(one, plan, reply);
+        else
+            reply.fault(one.cmdReference(), problems);
+    });
+    if (reply.answers().documents.isEmpty())
         reply.fault(QStringLiteral("The document holds no command for this service."));
-    } else if (!root.isValid()) {
-        const QString problems = root.syntaxError();
-        for (const XmlCmdAdmin* query : queries)
-            reply.fault(query->cmdReference(), problems);
-        for (const XmlCmdCalc* calculation : calculations)
-            reply.fault(calculation->cmdReference(), problems);
-    } else {
-        for (const XmlCmdAdmin* query : queries)
-            answer(*query, reply);
-        for (const XmlCmdCalc* calculation : calculations)
-            answer(*calculation, reply);
-    }
     return reply.answers();
 }
 

@@ -88,7 +88,7 @@ void Service::serve(Client& client)
 void Service::answer(const Frame& frame, Client& client)
 {
     const Answers answers =
-        frame.tooLong ? refusal(QStringLiteral("The document is too long.")) : answersTo(frame.document);
+        frame.tooLong ? refusal(QStringLiteral("The document is too long.")) : answersTo(frame.document, m_plan);
     for (const QByteArray& document : answers.documents)
         client.socket->write(framed(document));
     log(QStringLiteral("%1: a document, answered with: %2").arg(client.name, answers.summary));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/framing.h"
+#include "planning_service/plan.h"
 
 #include <QtCore/QTimer>
 #include <QtNetwork/QTcpServer>
@@ -43,6 +44,7 @@ private:
     void quitWhenAlone() const;
 
     const Settings m_settings;
+    Plan m_plan;
     int m_clientCount = 0;
     int m_documentCount = 0;
     bool m_stopping = false;

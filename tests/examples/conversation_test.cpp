@@ -119,6 +119,77 @@ QByteArray framed(const QByteArray& document)
     return document + '\0';
 }
 
+/// A service that answers everything with the same bytes, and keeps what it was sent.
+class FakeService {
+public:
+    explicit FakeService(const QByteArray& answer, bool hangsUp = false)
+    {
+        m_server.setProxy(QNetworkProxy::NoProxy);
+        m_server.listen(QHostAddress::LocalHost);
+        QObject::connect(&m_server, &QTcpServer::newConnection, &m_server, [this, answer, hangsUp] {
+            QTcpSocket* socket = m_server.nextPendingConnection();
+            QObject::connect(socket, &QTcpSocket::readyRead, socket, [this, socket, answer, hangsUp] {
+                m_received += socket->readAll();
+                if (!m_received.endsWith('\0'))
+                    return;
+                socket->write(answer);
+                if (hangsUp)
+                    socket->disconnectFromHost();
+            });
+        });
+    }
+
+    const QByteArray& received() const { return m_received; }
+
+    /// Runs a client against this service.
+    Run client(const QStringList& arguments, int seconds = patienceMs / 1000)
+    {
+        QProcess process;
+        process.start(QStringLiteral(CLIENT_PROGRAM),
+                      QStringList{QStringLiteral("--port"), QString::number(m_server.serverPort()),
+                                  QStringLiteral("--timeout"), QString::number(seconds)}
+                          + arguments);
+        // Unlike QProcess's own waiting, this lets the server work meanwhile.
+        if (process.waitForStarted(patienceMs)
+            && !QTest::qWaitFor([&process] { return process.state() == QProcess::NotRunning; }, patienceMs))
+            process.kill();
+        return finished(process);
+    }
+
+private:
+    QTcpServer m_server;
+    QByteArray m_received;
+};
+
+/// A command document in a file, for the client to read.
+class CommandFile {
+public:
+    explicit CommandFile(const QByteArray& commands)
+    {
+        QFile file(path());
+        if (file.open(QIODevice::WriteOnly))
+            file.write("<Commands>" + commands + "</Commands>");
+    }
+    QString path() const { return m_folder.filePath(QStringLiteral("commands.xml")); }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+QByteArray createStation(const QByteArray& name, const QByteArray& reference)
+{
+    return "<Create><Station><Name>" + name
+        + "</Name><Position version=\"1.0\"><Longitude>9.5</Longitude><Latitude>54.5</Latitude></Position></Station>"
+          "<Reference>"
+        + reference + "</Reference></Create>";
+}
+
+QByteArray deleteStation(const QByteArray& name, const QByteArray& reference)
+{
+    return "<Delete><Station>" + (name.isEmpty() ? QByteArray("<All/>") : "<Name>" + name + "</Name>")
+        + "</Station><Reference>" + reference + "</Reference></Delete>";
+}
+
 QString read(XmlRespRoot& root, const QByteArray& document)
 {
     QXmlStreamReader reader(document);
@@ -155,6 +226,23 @@ private Q_SLOTS:
     void aFaultSaysWhatIsWrong();
     void everyCommandOfADocumentIsAnswered();
     void everyCommandOfABadDocumentIsRefused();
+
+    void aPlanIsSentAndChanged();
+    void everyKindIsDeletedByNameAndAtOnce();
+    void aSecondObjectOfANameReplacesTheFirst();
+    void commandFilesGetAnEnvelopeAndAreElseSentAsTheyAre();
+    void badCommandFilesAreNotSent_data();
+    void badCommandFilesAreNotSent();
+    void oneBadCommandRefusesTheWholeDocument();
+    void createAndDeleteAreAnsweredOnce();
+    void possibleSitesDeliverAStation();
+    void aSiteIsProposedWhereThereIsNoStation_data();
+    void aSiteIsProposedWhereThereIsNoStation();
+    void deliveredObjects_data();
+    void deliveredObjects();
+    void aDeliveredObjectIsNoAnswer();
+    void thePlanIsBounded();
+    void faultsOfManyBadCommandsStayShort();
 
     void documentsMayComeInPiecesOrTogether();
     void rubbishDoesNotHarm();
@@ -237,11 +325,21 @@ void ConversationTest::rawDocuments_data()
     row("good/calculate-possible-sites.xml", 1, 0, "known emitters: Beacon 4");
     row("good/query-version.xml", 1, 0, "[reference hello] Version of the service");
     row("good/several-commands.xml", 3, 0, "[reference several-3] Grid result: circular error probable");
+    row("good/plan.xml", 35, 0, "[reference device-12] Done at 20");
+    row("good/change-plan.xml", 4, 0, "[reference change-3] Done at 20");
+    row("good/delete-all-of-each-kind.xml", 8, 0, "[reference all-8] Done at 20");
+    row("good/delete-one-of-each-kind.xml", 8, 1,
+        "[reference gone-8] Fault:\n  The plan holds no object of this kind with the name \"Active loop\".\n");
     row("good/without-envelope.xml", 1, 0, "[reference cep-coast-1] Grid result: circular error probable");
     row("bad/calculate-without-reference.xml", 1, 1,
         "[reference unknown] Fault:\n  in XmlCmdCalc (line 19, column 14): Unexpected token \"EndElement\".\n");
     row("bad/sites-too-many-random-emitters.xml", 1, 1, "  RandomEmitters/Number out of bounds\n");
     row("bad/envelope-with-short-id.xml", 1, 1, "[reference cep-coast-1] Fault:\n  +++ in XmlCmdRoot Begin:\n");
+    row("bad/create-station-without-position.xml", 1, 1, "Unexpected token \"EndElement\": Station.\n");
+    row("bad/create-device-negative-noise.xml", 1, 1, "Illegal decibel.\n");
+    row("bad/create-emitter-frequency-not-a-number.xml", 1, 1,
+        "[reference 1] Fault:\n  Some value is not acceptable.\n");
+    row("bad/delete-name-empty.xml", 1, 1, "Object name too short (min. 1).\n");
     row("unreadable/not-xml.txt", 1, 1, "[reference unknown] Fault:\n  Start tag expected.\n");
     row("unreadable/empty.xml", 1, 1, "[reference unknown] Fault:\n  Premature end of document.\n");
 }
@@ -405,6 +503,290 @@ void ConversationTest::everyCommandOfABadDocumentIsRefused()
         const QByteArray response = client.receive();
         QVERIFY2(errorMessage(response).contains(QLatin1String("SecondName not set")), response.constData());
         QVERIFY(response.contains(QByteArray("<CommandReference>") + reference + '<'));
+    }
+}
+
+void ConversationTest::aPlanIsSentAndChanged()
+{
+    RunningService service;
+    const QString option = QStringLiteral("--commands");
+    const Run plan = service.client({option, samplePath(QStringLiteral("good/plan.xml"))});
+    QCOMPARE(plan.errors, QString());
+    QCOMPARE(plan.output.count(QLatin1String("] Done at 20")), 35);
+    QCOMPARE(plan.status, 0);
+
+    const Run sites = service.client({QStringLiteral("findsites")});
+    QVERIFY2(sites.output.contains(QLatin1String("Delivered by the service on its own: station Station Cliff\n"
+                                                 "  longitude 10.270000, latitude 54.410000\n")),
+             qPrintable(sites.output));
+    QVERIFY2(sites.output.contains(QLatin1String("Grid result: possible sites")), qPrintable(sites.output));
+    QCOMPARE(sites.status, 0);
+
+    const QString removal = samplePath(QStringLiteral("good/delete-one-of-each-kind.xml"));
+    const Run removed = service.client({option, removal});
+    QCOMPARE(removed.output.count(QLatin1String("] Done at 20")), 8);
+    QCOMPARE(removed.status, 0);
+    const Run again = service.client({option, removal});
+    QCOMPARE(again.output.count(QLatin1String("] Fault:")), 8);
+    QCOMPARE(again.status, 1);
+
+    const Run others = service.client({QStringLiteral("findsites")});
+    QVERIFY2(others.output.contains(QLatin1String("station Station Lock\n")), qPrintable(others.output));
+}
+
+void ConversationTest::everyKindIsDeletedByNameAndAtOnce()
+{
+    RunningService service;
+    const QString option = QStringLiteral("--commands");
+    QCOMPARE(service.client({option, samplePath(QStringLiteral("good/plan.xml"))}).status, 0);
+    QCOMPARE(service.client({option, samplePath(QStringLiteral("good/delete-all-of-each-kind.xml"))}).status, 0);
+    // Nothing is left, of no kind; to delete all of nothing is no fault.
+    const Run byName = service.client({option, samplePath(QStringLiteral("good/delete-one-of-each-kind.xml"))});
+    QCOMPARE(byName.output.count(QLatin1String("] Fault:")), 8);
+    QCOMPARE(service.client({option, samplePath(QStringLiteral("good/delete-all-of-each-kind.xml"))}).status, 0);
+}
+
+void ConversationTest::aSecondObjectOfANameReplacesTheFirst()
+{
+    RunningService service;
+    const CommandFile first(createStation("Station Moor", "1"));
+    QCOMPARE(service.client({QStringLiteral("--commands"), first.path()}).status, 0);
+    QCOMPARE(service.client({QStringLiteral("--commands"), samplePath(QStringLiteral("good/change-plan.xml"))}).status,
+             0);
+    const Run sites = service.client({QStringLiteral("findsites")});
+    QVERIFY2(sites.output.contains(QLatin1String("station Station Moor\n  longitude 9.664000, latitude 54.481000\n")),
+             qPrintable(sites.output));
+    const CommandFile removal(deleteStation("Station Moor", "1") + deleteStation("Station Moor", "2"));
+    const Run removed = service.client({QStringLiteral("--commands"), removal.path()});
+    QVERIFY2(removed.output.contains(QLatin1String("[reference 1] Done")), qPrintable(removed.output));
+    QVERIFY2(removed.output.contains(QLatin1String("[reference 2] Fault")), qPrintable(removed.output));
+}
+
+void ConversationTest::commandFilesGetAnEnvelopeAndAreElseSentAsTheyAre()
+{
+    FakeService service(framed("rubbish"));
+    const Run run = service.client({QStringLiteral("--commands"), samplePath(QStringLiteral("good/plan.xml"))});
+    QCOMPARE(run.status, 2);
+
+    // The sample's commands use nothing that XML could say in two ways, so their bytes are the same.
+    const QByteArray file = sample("good/plan.xml");
+    const QByteArray commands = file.mid(file.indexOf("<!-- A plan")).trimmed();
+    const QByteArray sent = service.received();
+    QVERIFY(commands.size() > 10000);
+    QVERIFY(sent.contains(commands));
+    QCOMPARE(sent.count("<ORDER_DEF>"), 1);
+    QVERIFY(!sent.contains("ARV240305140709042"));
+    QVERIFY(sent.startsWith("<?xml version=\"1.0\" encoding=\"UTF-8\"?><Commands><ORDER_DEF><ORDER_ID>ARV"));
+}
+
+void ConversationTest::badCommandFilesAreNotSent_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char* file, int status, const char* text) {
+        QTest::newRow(file) << QString::fromLatin1(file) << status << QString::fromLatin1(text);
+    };
+    row("bad/create-station-without-position.xml", 1,
+        "Line 10, column 14: in XmlStationType (line 10, column 14): Unexpected token \"EndElement\": Station.\n");
+    row("bad/create-receiver-height-in-feet.xml", 1, "Illegal unit (must be \"m\").\n");
+    row("bad/create-emitter-frequency-not-a-number.xml", 1, "Some value is not acceptable.\n");
+    row("bad/delete-name-empty.xml", 1, "Object name too short (min. 1).\n");
+    row("good/response-fault.xml", 1, "Unexpected token \"StartElement\": Automatic.\n");
+    row("unreadable/another-protocol.xml", 1, "in XmlCmdRoot ");
+    row("unreadable/empty.xml", 1, "Premature end of document.\n");
+    row("unreadable/document-type-declaration.xml", 1, "A document type declaration is not accepted.\n");
+    row("no-such-file.xml", 2, "Cannot read ");
+}
+
+void ConversationTest::badCommandFilesAreNotSent()
+{
+    QFETCH(QString, file);
+    QFETCH(int, status);
+    QFETCH(QString, text);
+    RunningService service;
+    const Run run = service.client({QStringLiteral("--commands"), samplePath(file)});
+    QVERIFY2(run.errors.contains(text), qPrintable(run.errors));
+    QCOMPARE(run.status, status);
+    QCOMPARE(service.log(), QString());
+}
+
+void ConversationTest::oneBadCommandRefusesTheWholeDocument()
+{
+    RunningService service;
+    RawClient client(service);
+    QVERIFY(client.send(framed("<C>" + createStation("Station Moor", "1") + deleteStation("Station Moor", "2")
+                               + "<Delete><Station><Name/></Station><Reference>3</Reference></Delete></C>")));
+    for (const char* reference : {"1", "2", "3"}) {
+        const QByteArray response = client.receive();
+        QCOMPARE(errorMessage(response),
+                 QStringLiteral("+++ in XmlCmdDelete Begin:\n+++ in XmlNameAllType Begin:\n+++ in XmlObjNameType "
+                                "Begin:\nObject name too short (min. 1).\n--- in XmlObjNameType End\n--- in "
+                                "XmlNameAllType End\n--- in XmlCmdDelete End"));
+        QVERIFY(response.contains(QByteArray("<CommandReference>") + reference + '<'));
+    }
+    // The station was not created.
+    QVERIFY(client.send(framed("<C>" + deleteStation("Station Moor", "4") + "</C>")));
+    QCOMPARE(errorMessage(client.receive()),
+             QStringLiteral("The plan holds no object of this kind with the name \"Station Moor\"."));
+}
+
+void ConversationTest::createAndDeleteAreAnsweredOnce()
+{
+    RunningService service;
+    RawClient client(service);
+    QVERIFY(client.send(framed("<C><ORDER_DEF><ORDER_ID>ARV240305140709042</ORDER_ID><ORDER_SENDER>x</ORDER_SENDER>"
+                               "</ORDER_DEF>"
+                               + createStation("Station Moor", "first") + deleteStation("Station Moor", "second")
+                               + deleteStation("", "third") + "</C>")));
+    for (const char* reference : {"first", "second", "third"}) {
+        XmlRespRoot root;
+        QCOMPARE(read(root, client.receive()), QString());
+        QVERIFY(root.isValid());
+        QVERIFY(root.isFinal());
+        QCOMPARE(root.orderDef()->orderId(), QStringLiteral("ARV240305140709042"));
+        QCOMPARE(root.autoResp()->status(), XmlAutoRespType::StatusAck);
+        QCOMPARE(root.autoResp()->reference().reference(), QString::fromLatin1(reference));
+        QVERIFY(qAbs(root.autoResp()->estimatedTime().secsTo(QDateTime::currentDateTime())) < patienceMs / 1000);
+    }
+    QTRY_VERIFY_WITH_TIMEOUT(
+        service.log().contains(QLatin1String(
+            "answered with: created (reference first), deleted (reference second), deleted (reference third)\n")),
+        patienceMs);
+}
+
+void ConversationTest::possibleSitesDeliverAStation()
+{
+    RunningService service;
+    RawClient client(service);
+    QVERIFY(client.send(framed(sample("good/plan.xml"))));
+    for (int i = 0; i < 35; ++i)
+        QVERIFY(client.receive().contains("<EstimatedTime>"));
+    QVERIFY(client.send(framed(sample("good/calculate-possible-sites.xml"))));
+
+    const QByteArray first = client.receive();
+    QVERIFY2(first.contains("<Response type=\"automatic\" final=\"false\""), first.constData());
+    const QByteArray second = client.receive();
+    QVERIFY2(second.contains("<Response type=\"interactive\" final=\"true\""), second.constData());
+    QVERIFY2(second.contains("<ORDER_ID>ARV240305140709042</ORDER_ID>"), second.constData());
+    // The station of the plan, but for its signal path and its interlink.
+    QVERIFY2(second.contains("<Interactive><Station><Station><Name>Station Cliff</Name><Position version=\"1.0\">"
+                             "<Longitude>10.270000</Longitude><Latitude>54.410000</Latitude></Position>"
+                             "<RxParameter version=\"1.0\"><AntennaHeight version=\"1.0\" unit=\"m\">18"
+                             "</AntennaHeight><RxThreshold version=\"1.0\" unit=\"dBm\">-99.000000000000000"
+                             "</RxThreshold></RxParameter><DFprecision version=\"1.0\" unit=\"\xc2\xb0\">1"
+                             "</DFprecision></Station></Station></Interactive></Response>"),
+             second.constData());
+    const QByteArray third = client.receive();
+    QVERIFY2(third.contains("<Response type=\"automatic\" final=\"true\""), third.constData());
+    QVERIFY2(third.contains("<GridResult type="), third.constData());
+}
+
+void ConversationTest::aSiteIsProposedWhereThereIsNoStation_data()
+{
+    QTest::addColumn<QStringList>("areas");
+    QTest::addColumn<QString>("site");
+    const auto row = [](const char* name, const char* areas, const char* site) {
+        QTest::newRow(name) << QString::fromLatin1(areas).split(QLatin1Char('|'), Qt::SkipEmptyParts)
+                            << QString::fromLatin1(site);
+    };
+    row("in the middle of a rectangle", "Ridge South", "longitude 9.545000, latitude 54.385000\n");
+    row("at the first corner of a polygon", "Harbour Hills", "longitude 9.980000, latitude 54.360000\n");
+    row("in the first area named", "Inland Plateau|Ridge South", "longitude 9.200000, latitude 54.200000\n");
+    row("in the plan's first area when all are meant", "", "longitude 9.980000, latitude 54.360000\n");
+    row("nowhere when the area is not known", "Elsewhere|Ridge South", "");
+}
+
+void ConversationTest::aSiteIsProposedWhereThereIsNoStation()
+{
+    QFETCH(QStringList, areas);
+    QFETCH(QString, site);
+    RunningService service;
+    QCOMPARE(service.client({QStringLiteral("--commands"), samplePath(QStringLiteral("good/plan.xml"))}).status, 0);
+    const CommandFile removal(deleteStation("", "1"));
+    QCOMPARE(service.client({QStringLiteral("--commands"), removal.path()}).status, 0);
+
+    const Run run = service.client(QStringList(QStringLiteral("findsites")) + areas);
+
+    QCOMPARE(run.status, 0);
+    const QString delivered = QStringLiteral("Delivered by the service on its own: station Proposed station\n  ");
+    if (site.isEmpty())
+        QVERIFY2(!run.output.contains(QLatin1String("Delivered")), qPrintable(run.output));
+    else
+        QVERIFY2(run.output.contains(delivered + site), qPrintable(run.output));
+}
+
+void ConversationTest::deliveredObjects_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char* file, int status, const char* text) {
+        QTest::newRow(file) << QString::fromLatin1(file) << status << QString::fromLatin1(text);
+    };
+    row("interactive-results/station.xml", 0, "own: station Station Moor\n  longitude 9.660000, latitude 54.480000\n");
+    row("interactive-results/emitter.xml", 0, "own: emitter Beacon 4\n  longitude 10.210000, latitude 54.430000\n");
+    row("interactive-results/receiver.xml", 0, "own: receiver RX Quarry\n  longitude 9.580000, latitude 54.380000\n");
+    row("interactive-results/direction-finder.xml", 0,
+        "own: direction finder DF Headland\n  longitude 10.310000, latitude 54.400000\n");
+    row("good/response-interactive-interlink.xml", 0, "own: interlink from Station Cliff to Tower Harbour\n");
+    row("grid-results/interactive-cep.xml", 0, "Grid result: circular error probable\n");
+    row("interactive-results/station-beyond-the-pole.xml", 2, "not acceptable:\n  +++ in XmlRespRoot Begin:\n");
+    row("bad/response-interactive-station-without-position.xml", 2,
+        "cannot be read (line 11, column 16):\n  in XmlStationType (line 11, column 16): Unexpected token "
+        "\"EndElement\": Station.\n");
+    row("bad/response-interactive-station-with-power.xml", 2, "Unexpected element \"Power\".\n");
+    row("bad/response-interactive-marked-automatic.xml", 2, "Type automatic but no content\n");
+}
+
+void ConversationTest::deliveredObjects()
+{
+    QFETCH(QString, file);
+    QFETCH(int, status);
+    QFETCH(QString, text);
+    FakeService service(framed(sample(qPrintable(file))) + framed(sample("good/response-version.xml")));
+
+    const Run run = service.client({QStringLiteral("--raw"), samplePath(QStringLiteral("good/query-version.xml"))});
+
+    QVERIFY2(run.output.contains(text), qPrintable(run.output));
+    QCOMPARE(run.output.contains(QLatin1String("Version of the service: 3.2")), status == 0);
+    QCOMPARE(run.status, status);
+}
+
+void ConversationTest::aDeliveredObjectIsNoAnswer()
+{
+    FakeService service(framed(sample("interactive-results/station.xml")), true);
+    const Run run = service.client({QStringLiteral("--raw"), samplePath(QStringLiteral("good/query-version.xml"))});
+    QVERIFY2(run.output.contains(QLatin1String("station Station Moor\n")), qPrintable(run.output));
+    QVERIFY2(run.errors.contains(QLatin1String("No answer: ")), qPrintable(run.errors));
+    QCOMPARE(run.status, 2);
+}
+
+void ConversationTest::thePlanIsBounded()
+{
+    constexpr int limit = 10000;
+    RunningService service;
+    RawClient client(service);
+    QByteArray commands;
+    for (int i = 0; i <= limit; ++i)
+        commands += createStation("S" + QByteArray::number(i), QByteArray::number(i));
+    QVERIFY(client.send(framed("<C>" + commands + createStation("S0", "again") + "</C>")));
+    for (int i = 0; i < limit; ++i)
+        QVERIFY(client.receive().contains("<EstimatedTime>"));
+    QCOMPARE(errorMessage(client.receive()), QStringLiteral("The plan holds too many objects of this kind."));
+    QVERIFY(client.receive().contains("<EstimatedTime>"));
+}
+
+void ConversationTest::faultsOfManyBadCommandsStayShort()
+{
+    constexpr int count = 1000;
+    RunningService service;
+    RawClient client(service);
+    QVERIFY(client.send(framed("<C>" + createStation("", "1").repeated(count) + "</C>")));
+    for (int i = 0; i < count; ++i) {
+        const QString message = errorMessage(client.receive());
+        QVERIFY(message.startsWith(QLatin1String("+++ in XmlCmdRoot Begin:\n")));
+        QCOMPARE(message.size(), 4000);
     }
 }
 
@@ -588,29 +970,10 @@ void ConversationTest::clientAgainstBadServices()
     QFETCH(int, seconds);
     QFETCH(QString, text);
     const bool hangsUp = answer.isEmpty() || answer == "<Response";
-    const bool isSilent = answer == "silent";
 
-    QTcpServer server;
-    server.setProxy(QNetworkProxy::NoProxy);
-    QVERIFY(server.listen(QHostAddress::LocalHost));
-    connect(&server, &QTcpServer::newConnection, &server, [&] {
-        QTcpSocket* socket = server.nextPendingConnection();
-        connect(socket, &QTcpSocket::readyRead, socket, [=] {
-            socket->readAll();
-            if (!isSilent)
-                socket->write(answer);
-            if (hangsUp)
-                socket->disconnectFromHost();
-        });
-    });
-    QProcess client;
-    client.start(QStringLiteral(CLIENT_PROGRAM),
-                 {QStringLiteral("--port"), QString::number(server.serverPort()), QStringLiteral("--timeout"),
-                  QString::number(seconds), QStringLiteral("version")});
-    QVERIFY(client.waitForStarted(patienceMs));
-    QTRY_COMPARE_WITH_TIMEOUT(client.state(), QProcess::NotRunning, patienceMs);
+    FakeService service(answer == "silent" ? QByteArray() : answer, hangsUp);
+    const Run run = service.client({QStringLiteral("version")}, seconds);
 
-    const Run run = finished(client);
     QVERIFY2((run.output + run.errors).contains(text), qPrintable(run.output + run.errors));
     QCOMPARE(run.status, 2);
 }
