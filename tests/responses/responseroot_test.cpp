@@ -59,6 +59,26 @@ XmlAutoRespType autoResp(const QString& reference)
     return response;
 }
 
+/// A valid response; without a text it is not.
+XmlInteractRespType interactResp(const QString& resultText)
+{
+    XmlInterlinkResultType result;
+    XmlInterlinkPlanningType parameters;
+    parameters.setFirstName(QStringLiteral("A"));
+    parameters.setSecondName(QStringLiteral("B"));
+    result.setParameters(parameters);
+    result.setResultText(resultText);
+    XmlInteractRespType response;
+    response.setInterlinkResult(result);
+    return response;
+}
+
+/// The text by which an interactive response is known; "?" without a result.
+QString resultText(const XmlInteractRespType& response)
+{
+    return response.hasInterlinkResult() ? response.interlinkResult()->resultText() : QStringLiteral("?");
+}
+
 QDateTime someTime()
 {
     return QDateTime(QDate(2024, 3, 5), QTime(14, 7, 9));
@@ -70,7 +90,8 @@ QString held(const XmlRespRoot& root)
     return QStringList({QString::number(root.type()), QString::number(root.isFinal()),
                         root.timestamp().toString(Qt::ISODate),
                         root.orderDef() ? root.orderDef()->orderSender() : QStringLiteral("-"),
-                        root.autoResp() ? root.autoResp()->reference().reference() : QStringLiteral("-")})
+                        root.autoResp() ? root.autoResp()->reference().reference() : QStringLiteral("-"),
+                        root.interactResp() ? resultText(*root.interactResp()) : QStringLiteral("-")})
         .join(QLatin1Char(';'));
 }
 
@@ -83,6 +104,9 @@ const char orderXml[] =
     "<ORDER_DEF><ORDER_ID>ARV240305140709042</ORDER_ID><ORDER_SENDER>host</ORDER_SENDER></ORDER_DEF>";
 const char autoXml[] = "<Automatic status=\"ack\"><CommandReference>ref</CommandReference><ArvVersion>7.1</ArvVersion>"
                        "</Automatic>";
+const char interactXml[] =
+    "<Interactive><InterlinkResult><Parameters><FirstName>A</FirstName><SecondName>B</SecondName>"
+    "</Parameters><Result><Text>link</Text></Result></InterlinkResult></Interactive>";
 const char startXml[] = "<R type=\"automatic\" final=\"true\" timestamp=\"2024-03-05T14:07:09\">";
 
 QString document(const char* content)
@@ -91,6 +115,7 @@ QString document(const char* content)
         + text(content)
               .replace(QLatin1String("{O}"), QLatin1String(orderXml))
               .replace(QLatin1String("{A}"), QLatin1String(autoXml))
+              .replace(QLatin1String("{I}"), QLatin1String(interactXml))
         + text("</R>");
 }
 
@@ -100,6 +125,7 @@ static_assert(std::is_base_of_v<XmlElementBase, XmlRespRoot>);
 static_assert(std::is_same_v<decltype(std::declval<XmlRespRoot&>().timestamp()), const QDateTime&>);
 static_assert(std::is_same_v<decltype(std::declval<XmlRespRoot&>().orderDef()), const XmlOrderDef*>);
 static_assert(std::is_same_v<decltype(std::declval<XmlRespRoot&>().autoResp()), const XmlAutoRespType*>);
+static_assert(std::is_same_v<decltype(std::declval<XmlRespRoot&>().interactResp()), const XmlInteractRespType*>);
 
 class ResponserootTest : public QObject {
     Q_OBJECT
@@ -125,6 +151,8 @@ private Q_SLOTS:
     void severalWrongAttributes();
     void children_data();
     void children();
+    void gates_data();
+    void gates();
     void refused_data();
     void refused();
     void readingIntoUsedObject();
@@ -151,6 +179,8 @@ void ResponserootTest::newObject()
     QVERIFY(root.orderDef() == nullptr);
     QVERIFY(!root.hasAutoResp());
     QVERIFY(root.autoResp() == nullptr);
+    QVERIFY(!root.hasInteractResp());
+    QVERIFY(root.interactResp() == nullptr);
     QVERIFY(!root.isValid());
 }
 
@@ -176,7 +206,12 @@ void ResponserootTest::accessors()
     QVERIFY(!root.hasAutoResp());
     root.setAutoResp(autoResp(QStringLiteral("ref")));
     QVERIFY(root.hasAutoResp());
-    QCOMPARE(held(root), text("1;1;;host;ref"));
+    QVERIFY(!root.hasInteractResp());
+    root.setInteractResp(interactResp(QStringLiteral("link")));
+    QVERIFY(root.hasInteractResp());
+    QVERIFY(root.hasAutoResp()); // setting one kind of content leaves the other
+    root.setAutoResp(autoResp(QStringLiteral("ref")));
+    QCOMPARE(held(root), text("1;1;;host;ref;link"));
 }
 
 void ResponserootTest::childrenAreCopiedAndAssigned()
@@ -184,67 +219,74 @@ void ResponserootTest::childrenAreCopiedAndAssigned()
     XmlRespRoot root;
     XmlOrderDef order = orderDef(QStringLiteral("first"));
     XmlAutoRespType response = autoResp(QStringLiteral("first"));
+    XmlInteractRespType interactive = interactResp(QStringLiteral("first"));
     root.setTimestamp(someTime());
     root.setOrderDef(order);
     root.setAutoResp(response);
+    root.setInteractResp(interactive);
     const XmlOrderDef* const heldOrder = root.orderDef();
     const XmlAutoRespType* const heldResponse = root.autoResp();
+    const XmlInteractRespType* const heldInteractive = root.interactResp();
     order.setOrderSender(QStringLiteral("second"));
     response.setReference(autoResp(QStringLiteral("second")).reference());
-    QCOMPARE(held(root), text("0;1;2024-03-05T14:07:09;first;first"));
+    interactive = interactResp(QStringLiteral("second"));
+    QCOMPARE(held(root), text("0;1;2024-03-05T14:07:09;first;first;first"));
 
     root.setOrderDef(order);
     root.setAutoResp(response);
+    root.setInteractResp(interactive);
     QCOMPARE(root.orderDef(), heldOrder);
     QCOMPARE(root.autoResp(), heldResponse);
+    QCOMPARE(root.interactResp(), heldInteractive);
     root.setOrderDef(*root.orderDef());
     root.setAutoResp(*root.autoResp());
-    QCOMPARE(held(root), text("0;1;2024-03-05T14:07:09;second;second"));
+    root.setInteractResp(*root.interactResp());
+    QCOMPARE(held(root), text("0;1;2024-03-05T14:07:09;second;second;second"));
 }
 
 void ResponserootTest::copies_data()
 {
-    QTest::addColumn<bool>("sourceOrder");
-    QTest::addColumn<bool>("sourceResponse");
-    QTest::addColumn<bool>("targetOrder");
-    QTest::addColumn<bool>("targetResponse");
+    QTest::addColumn<int>("inSource");
+    QTest::addColumn<int>("inTarget");
 
-    for (int i = 0; i < 16; ++i) {
-        QTest::addRow("source with order %d, response %d; target with order %d, response %d", i & 1, (i >> 1) & 1,
-                      (i >> 2) & 1, i >> 3)
-            << ((i & 1) != 0) << ((i & 2) != 0) << ((i & 4) != 0) << ((i & 8) != 0);
+    // 1 stands for the order, 2 for the automatic response, 4 for the interactive one.
+    for (int source = 0; source < 8; ++source) {
+        for (int target = 0; target < 8; ++target)
+            QTest::addRow("children %d in the source, %d in the target", source, target) << source << target;
     }
 }
 
 void ResponserootTest::copies()
 {
-    QFETCH(bool, sourceOrder);
-    QFETCH(bool, sourceResponse);
-    QFETCH(bool, targetOrder);
-    QFETCH(bool, targetResponse);
+    QFETCH(int, inSource);
+    QFETCH(int, inTarget);
 
+    const auto fill = [](XmlRespRoot& root, int children, const QString& name) {
+        if (children & 1)
+            root.setOrderDef(orderDef(name));
+        if (children & 2)
+            root.setAutoResp(autoResp(name));
+        if (children & 4)
+            root.setInteractResp(interactResp(name));
+    };
     XmlRespRoot source;
     source.setType(XmlRespRoot::RespAutomatic);
     source.setFinal(false);
     source.setTimestamp(someTime());
-    if (sourceOrder)
-        source.setOrderDef(orderDef(QStringLiteral("source")));
-    if (sourceResponse)
-        source.setAutoResp(autoResp(QStringLiteral("source")));
+    fill(source, inSource, QStringLiteral("source"));
     XmlRespRoot target;
-    if (targetOrder)
-        target.setOrderDef(orderDef(QStringLiteral("target")));
-    if (targetResponse)
-        target.setAutoResp(autoResp(QStringLiteral("target")));
+    fill(target, inTarget, QStringLiteral("target"));
 
     const XmlRespRoot copy(source);
     target = source;
-    QVERIFY(!sourceOrder || (copy.orderDef() != source.orderDef() && target.orderDef() != source.orderDef()));
-    QVERIFY(!sourceResponse || (copy.autoResp() != source.autoResp() && target.autoResp() != source.autoResp()));
+    for (const XmlRespRoot* other : {&copy, static_cast<const XmlRespRoot*>(&target)}) {
+        QVERIFY(!(inSource & 1) || other->orderDef() != source.orderDef());
+        QVERIFY(!(inSource & 2) || other->autoResp() != source.autoResp());
+        QVERIFY(!(inSource & 4) || other->interactResp() != source.interactResp());
+    }
     source.reset();
-    const QString expected =
-        QStringLiteral("2;0;2024-03-05T14:07:09;%1;%2")
-            .arg(sourceOrder ? text("source") : text("-"), sourceResponse ? text("source") : text("-"));
+    const auto name = [inSource](int child) { return (inSource & child) ? text("source") : text("-"); };
+    const QString expected = QStringLiteral("2;0;2024-03-05T14:07:09;%1;%2;%3").arg(name(1), name(2), name(4));
     QCOMPARE(held(copy), expected);
     QCOMPARE(held(target), expected);
 }
@@ -257,9 +299,10 @@ void ResponserootTest::selfAssignment()
     root.setTimestamp(someTime());
     root.setOrderDef(orderDef(QStringLiteral("host")));
     root.setAutoResp(autoResp(QStringLiteral("ref")));
+    root.setInteractResp(interactResp(QStringLiteral("link")));
     const XmlRespRoot& self = root;
     root = self;
-    QCOMPARE(held(root), text("2;0;2024-03-05T14:07:09;host;ref"));
+    QCOMPARE(held(root), text("2;0;2024-03-05T14:07:09;host;ref;link"));
 }
 
 void ResponserootTest::errorTextIsCopiedAndReset()
@@ -305,6 +348,13 @@ void ResponserootTest::written_data()
                                 << start + text(autoXml) + text("</R>");
     QTest::newRow("the order comes first")
         << 2 << false << QDateTime(day, time) << text("AO") << start + text(orderXml) + text(autoXml) + text("</R>");
+    QTest::newRow("an interactive response")
+        << 2 << false << QDateTime(day, time) << text("I") << start + text(interactXml) + text("</R>");
+    QTest::newRow("everything, set in the reverse order")
+        << 2 << false << QDateTime(day, time) << text("IAO")
+        << start + text(orderXml) + text(autoXml) + text(interactXml) + text("</R>");
+    QTest::newRow("an interactive response and an order") << 2 << false << QDateTime(day, time) << text("IO")
+                                                          << start + text(orderXml) + text(interactXml) + text("</R>");
     QTest::newRow("a response of another type")
         << 1 << false << QDateTime(day, time) << text("A")
         << text("<R type=\"interactive\" final=\"false\" timestamp=\"2024-03-05T14:07:09\">") + text(autoXml)
@@ -323,6 +373,8 @@ void ResponserootTest::written()
     root.setType(static_cast<XmlRespRoot::RespType>(type));
     root.setFinal(isFinal);
     root.setTimestamp(time);
+    if (children.contains(QLatin1Char('I')))
+        root.setInteractResp(interactResp(QStringLiteral("link")));
     if (children.contains(QLatin1Char('A')))
         root.setAutoResp(autoResp(QStringLiteral("ref")));
     if (children.contains(QLatin1Char('O')))
@@ -371,7 +423,7 @@ void ResponserootTest::typeRead()
             QStringLiteral("\n  <R %1\n  final=\"false\" timestamp=\"2024-03-05T14:07:09\">|</R>").arg(attribute),
             text("XmlRespRoot"), text("Illegal attribute value in \"type\""));
         QCOMPARE(ElementTest::readError(root, refused.xml), type == 0 ? refused.error : QString());
-        QCOMPARE(held(root), QString::number(type) + text(";0;2024-03-05T14:07:09;-;-"));
+        QCOMPARE(held(root), QString::number(type) + text(";0;2024-03-05T14:07:09;-;-;-"));
     }
 }
 
@@ -478,14 +530,20 @@ void ResponserootTest::children_data()
     const auto row = [](const char* name, const char* content, const char* read) {
         QTest::newRow(name) << document(content) << text("2;1;2024-03-05T14:07:09;") + text(read);
     };
-    row("none", "", "-;-");
-    row("an order", "{O}", "host;-");
-    row("a response", "{A}", "-;ref");
-    row("an order and a response", "{O}{A}", "host;ref");
-    row("an order after the response", "{A}{O}", "host;ref");
-    row("an order repeated", "{O}{O}", "host;-");
-    row("orders before and after the response", "{O}{O}{A}{O}{O}", "host;ref");
-    row("other tokens are skipped", "text<!-- comment --><?pi data?>\n{O} 5 {A}\n", "host;ref");
+    row("none", "", "-;-;-");
+    row("an order", "{O}", "host;-;-");
+    row("a response", "{A}", "-;ref;-");
+    row("an interactive response", "{I}", "-;-;link");
+    row("an order and a response", "{O}{A}", "host;ref;-");
+    row("an order and an interactive response", "{O}{I}", "host;-;link");
+    row("an order after the response", "{A}{O}", "host;ref;-");
+    row("an order after the interactive response", "{I}{O}", "host;-;link");
+    row("an order repeated", "{O}{O}", "host;-;-");
+    row("orders before and after the response", "{O}{O}{A}{O}{O}", "host;ref;-");
+    row("orders before and after the interactive response", "{O}{O}{I}{O}{O}", "host;-;link");
+    row("other tokens are skipped", "text<!-- comment --><?pi data?>\n{O} 5 {A}\n", "host;ref;-");
+    row("other tokens are skipped around an interactive response",
+        "text<!-- comment --><?pi data?>\n{I} 5 <![CDATA[x]]>\n", "-;-;link");
 }
 
 void ResponserootTest::children()
@@ -501,7 +559,9 @@ void ResponserootTest::children()
         expected += text(orderXml);
     if (root.hasAutoResp())
         expected += text(autoXml);
-    if (root.hasOrderDef() || root.hasAutoResp())
+    if (root.hasInteractResp())
+        expected += text(interactXml);
+    if (root.hasOrderDef() || root.hasAutoResp() || root.hasInteractResp())
         QCOMPARE(::written(root), expected + text("</R>"));
 
     // The type is not compared with what follows
@@ -509,6 +569,76 @@ void ResponserootTest::children()
     QCOMPARE(ElementTest::readError(interactive, QString(xml).replace(text("automatic"), text("interactive"))),
              QString());
     QCOMPARE(held(interactive), QString(read).replace(0, 1, QLatin1Char('1')));
+}
+
+void ResponserootTest::gates_data()
+{
+    QTest::addColumn<QStringList>("children");
+    QTest::addColumn<bool>("accepted");
+
+    // What may follow the children before: "+" accepted, "x" refused.
+    const QStringList next = {QStringLiteral("ORDER_DEF"), QStringLiteral("Automatic"), QStringLiteral("Interactive"),
+                              QStringLiteral("interactive"), QStringLiteral("Station")};
+    const auto add = [&](const char* before, const char* outcomes) {
+        const QStringList beforeTags = text(before).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        for (int i = 0; i < next.size(); ++i) {
+            QTest::newRow(qPrintable(QStringLiteral("(%1) then %2").arg(text(before), next[i])))
+                << (beforeTags + QStringList(next[i])) << (outcomes[i] == '+');
+        }
+    };
+
+    add("", "+++xx");
+    add("ORDER_DEF", "+++xx");
+    add("Automatic", "+xxxx");
+    add("Interactive", "+xxxx");
+    add("ORDER_DEF ORDER_DEF", "+++xx");
+    add("ORDER_DEF Automatic", "+xxxx");
+    add("ORDER_DEF Interactive", "+xxxx");
+    add("Automatic ORDER_DEF", "+xxxx");
+    add("Interactive ORDER_DEF", "+xxxx");
+    add("ORDER_DEF Automatic ORDER_DEF", "+xxxx");
+    add("ORDER_DEF Interactive ORDER_DEF", "+xxxx");
+}
+
+void ResponserootTest::gates()
+{
+    QFETCH(QStringList, children);
+    QFETCH(bool, accepted);
+
+    QString marked = text(startXml) + QLatin1Char('\n');
+    QStringList read = {text("-"), text("-"), text("-")};
+    for (int i = 0; i < children.size(); ++i) {
+        const QString& child = children[i];
+        if (i == children.size() - 1 && !accepted) {
+            marked += QStringLiteral("<%1>|</%1>\n").arg(child);
+        } else if (child == QLatin1String("ORDER_DEF")) {
+            marked += text(orderXml) + QLatin1Char('\n');
+            read[0] = text("host");
+        } else if (child == QLatin1String("Automatic")) {
+            marked += text(autoXml) + QLatin1Char('\n');
+            read[1] = text("ref");
+        } else {
+            marked += text(interactXml) + QLatin1Char('\n');
+            read[2] = text("link");
+        }
+    }
+    marked += text("</R>");
+
+    XmlRespRoot root;
+    if (accepted) {
+        QCOMPARE(ElementTest::readError(root, marked), QString());
+    } else {
+        const Refusal refused = refusal(marked, text("XmlRespRoot"),
+                                        QStringLiteral("Unexpected token \"StartElement\": %1").arg(children.last()));
+        QCOMPARE(ElementTest::readError(root, refused.xml), refused.error);
+    }
+    QCOMPARE(held(root), text("2;1;2024-03-05T14:07:09;") + read.join(QLatin1Char(';')));
+
+    // Every call starts afresh; one kind of content leaves the other.
+    QCOMPARE(ElementTest::readError(root, document("{I}")), QString());
+    QCOMPARE(held(root), QStringLiteral("2;1;2024-03-05T14:07:09;%1;%2;link").arg(read[0], read[1]));
+    QCOMPARE(ElementTest::readError(root, document("{A}")), QString());
+    QCOMPARE(held(root), QStringLiteral("2;1;2024-03-05T14:07:09;%1;ref;link").arg(read[0]));
 }
 
 void ResponserootTest::refused_data()
@@ -527,6 +657,18 @@ void ResponserootTest::refused_data()
         "Unexpected token \"StartElement\": Automatic");
     row("an interactive response after an automatic one", "\n{A}\n <Interactive>|</Interactive>", own,
         "Unexpected token \"StartElement\": Interactive");
+    row("an automatic response after an interactive one", "\n{I}\n <Automatic status=\"ack\">|</Automatic>", own,
+        "Unexpected token \"StartElement\": Automatic");
+    row("a second interactive response", "\n{I}{O}\n  <Interactive>|</Interactive>", own,
+        "Unexpected token \"StartElement\": Interactive");
+    row("an empty interactive response", "\n{O}\n<Interactive></Interactive>|", "XmlInteractRespType",
+        "Unexpected token \"EndElement\": Interactive");
+    row("an interactive response with two items",
+        "<Interactive><InterlinkResult><Parameters><FirstName>A</FirstName><SecondName>B</SecondName></Parameters>"
+        "<Result><Text>t</Text></Result></InterlinkResult>\n<GridResult>|</GridResult></Interactive>",
+        "XmlInteractRespType", "Unexpected token \"StartElement\": GridResult");
+    row("a result object", "\n<Interactive>\n <Station>\n </Station>|\n</Interactive>", "XmlResultObjectType",
+        "Unexpected token \"EndElement\": Station");
     row("another element", "<Other>|</Other>", own, "Unexpected token \"StartElement\": Other");
     row("another element after the children", "{O}{A}\n\n<Other>|</Other>", own,
         "Unexpected token \"StartElement\": Other");
@@ -577,15 +719,24 @@ void ResponserootTest::readingIntoUsedObject()
 
     // What the document does not mention stays
     QCOMPARE(ElementTest::readError(root, document("")), QString());
-    QCOMPARE(held(root), text("2;1;2024-03-05T14:07:09;old;old"));
+    QCOMPARE(held(root), text("2;1;2024-03-05T14:07:09;old;old;-"));
     QVERIFY(root.autoResp()->hasErrorMessage());
 
     // A child is replaced as a whole; one response in each reading
     QCOMPARE(ElementTest::readError(root, document("{A}")), QString());
-    QCOMPARE(held(root), text("2;1;2024-03-05T14:07:09;old;ref"));
+    QCOMPARE(held(root), text("2;1;2024-03-05T14:07:09;old;ref;-"));
     QVERIFY(!root.autoResp()->hasErrorMessage());
     QCOMPARE(ElementTest::readError(root, document("{O}{A}")), QString());
-    QCOMPARE(held(root), text("2;1;2024-03-05T14:07:09;host;ref"));
+    QCOMPARE(held(root), text("2;1;2024-03-05T14:07:09;host;ref;-"));
+
+    XmlInteractRespType both = interactResp(QStringLiteral("old"));
+    both.setResult(XmlResultObjectType());
+    root.setInteractResp(both);
+    QCOMPARE(ElementTest::readError(root, document("")), QString());
+    QCOMPARE(held(root), text("2;1;2024-03-05T14:07:09;host;ref;old"));
+    QCOMPARE(ElementTest::readError(root, document("{I}")), QString());
+    QCOMPARE(held(root), text("2;1;2024-03-05T14:07:09;host;ref;link"));
+    QVERIFY(!root.interactResp()->hasResult());
 }
 
 void ResponserootTest::laterOrderReplacesEarlierOne()
@@ -606,7 +757,7 @@ void ResponserootTest::useAfterFailedRead()
                                     document("{O}\n<Automatic status=\"fault\">\n<ArvVersion>8</ArvVersion>"
                                              "</Automatic>")),
              text("in XmlAutoRespType (line 3, column 38): Unexpected token \"EndElement\": Automatic."));
-    QCOMPARE(held(root), text("2;1;2024-03-05T14:07:09;host;"));
+    QCOMPARE(held(root), text("2;1;2024-03-05T14:07:09;host;;-"));
     QCOMPARE(root.autoResp()->arvVersion(), text("8"));
     QVERIFY(!root.isValid());
     QCOMPARE(root.syntaxError(),
@@ -618,13 +769,27 @@ void ResponserootTest::useAfterFailedRead()
                   "Must have status 'ack'\n"
                   "--- in XmlAutoRespType End\n"
                   "--- in XmlRespRoot End"));
-    QCOMPARE(held(XmlRespRoot(root)), text("2;1;2024-03-05T14:07:09;host;"));
+    QCOMPARE(held(XmlRespRoot(root)), text("2;1;2024-03-05T14:07:09;host;;-"));
     QCOMPARE(::written(root),
              text(startXml) + text(orderXml)
                  + text("<Automatic status=\"fault\"><CommandReference></CommandReference><ArvVersion>8</ArvVersion>"
                         "</Automatic></R>"));
     QCOMPARE(ElementTest::readError(root, document("{A}")), QString());
     QVERIFY(root.isValid());
+
+    // A result object always ends the read, but what it brought can be used.
+    XmlRespRoot object;
+    const QString station = text("<Interactive>\n<Station><Station><Name>S</Name><Position version=\"1.0\">"
+                                 "<Longitude>7.500000</Longitude><Latitude>47.250000</Latitude></Position></Station>"
+                                 "</Station></Interactive>");
+    const QString interactive = text(startXml).replace(text("automatic"), text("interactive"));
+    QCOMPARE(ElementTest::readError(object, interactive + station + text(orderXml) + text("</R>")),
+             text("in XmlResultObjectType (line 2, column 148): Unexpected token \"EndElement\": Station."));
+    QVERIFY(!object.hasOrderDef());
+    QVERIFY(object.isValid());
+    QCOMPARE(object.syntaxError(), QString());
+    QCOMPARE(::written(object), interactive + QString(station).remove(QLatin1Char('\n')) + text("</R>"));
+    QCOMPARE(object.interactResp()->result()->station()->objName()->objName(), text("S"));
     root.reset();
     QVERIFY(!root.hasOrderDef());
 
@@ -663,22 +828,88 @@ void ResponserootTest::wrongPosition()
     root.setTimestamp(someTime());
     root.processXml(reader, QStringLiteral("R"));
     QCOMPARE(reader.errorString(), QStringLiteral("in XmlRespRoot (%1): Parse error (wrong position).").arg(place));
-    QCOMPARE(held(root), text("1;0;2024-03-05T14:07:09;-;-"));
+    QCOMPARE(held(root), text("1;0;2024-03-05T14:07:09;-;-;-"));
 }
 
 void ResponserootTest::combinations_data()
 {
     QTest::addColumn<int>("type");
     QTest::addColumn<int>("order");
-    QTest::addColumn<int>("response");
+    QTest::addColumn<int>("automatic");
+    QTest::addColumn<int>("interactive");
+    QTest::addColumn<bool>("contentFits"); ///< and is valid
+    QTest::addColumn<QString>("contentProblem");
 
+    const QString automaticProblem = text("+++ in XmlAutoRespType Begin:\n"
+                                          "+++ in XmlreferenceType Begin:\n"
+                                          "String too short (min. 1)\n"
+                                          "--- in XmlreferenceType End\n"
+                                          "--- in XmlAutoRespType End\n");
+    const QString interactiveProblem = text("+++ in XmlInteractRespType Begin:\n"
+                                            "+++ in XmlInterlinkResultType Begin:\n"
+                                            "Missing Result Text\n"
+                                            "--- in XmlInterlinkResultType End\n"
+                                            "--- in XmlInteractRespType End\n");
+    const QString undefined = text("Type not defined.\n");
+    const QString noAutomatic = text("Type automatic but no content\n");
+    const QString notJustAutomatic = text("Type automatic but interactive content\n");
+    const QString noInteractive = text("Type interactive but no content\n");
+    const QString notJustInteractive = text("Type interactive but automatic content\n");
+    const QString none;
+
+    // Each kind of content is absent (0), valid (1) or invalid (2).
+    struct Outcome {
+        int type;
+        int automatic;
+        int interactive;
+        bool fits;
+        QString problem;
+    };
+    const QList<Outcome> outcomes = {
+        {0, 0, 0, false, undefined},
+        {0, 0, 1, false, undefined},
+        {0, 0, 2, false, undefined},
+        {0, 1, 0, false, undefined},
+        {0, 1, 1, false, undefined},
+        {0, 1, 2, false, undefined},
+        {0, 2, 0, false, undefined},
+        {0, 2, 1, false, undefined},
+        {0, 2, 2, false, undefined},
+        {1, 0, 0, false, noInteractive},
+        {1, 0, 1, true, none},
+        {1, 0, 2, false, interactiveProblem},
+        {1, 1, 0, false, noInteractive},
+        {1, 1, 1, false, notJustInteractive},
+        {1, 1, 2, false, notJustInteractive},
+        {1, 2, 0, false, noInteractive},
+        {1, 2, 1, false, notJustInteractive},
+        {1, 2, 2, false, notJustInteractive},
+        {2, 0, 0, false, noAutomatic},
+        {2, 0, 1, false, noAutomatic},
+        {2, 0, 2, false, noAutomatic},
+        {2, 1, 0, true, none},
+        {2, 1, 1, false, notJustAutomatic},
+        {2, 1, 2, false, notJustAutomatic},
+        {2, 2, 0, false, automaticProblem},
+        {2, 2, 1, false, notJustAutomatic},
+        {2, 2, 2, false, notJustAutomatic},
+        // With a type beyond the known ones the content is not looked at.
+        {3, 0, 0, true, none},
+        {3, 0, 1, true, none},
+        {3, 0, 2, true, none},
+        {3, 1, 0, true, none},
+        {3, 1, 1, true, none},
+        {3, 1, 2, true, none},
+        {3, 2, 0, true, none},
+        {3, 2, 1, true, none},
+        {3, 2, 2, true, none},
+    };
     const char* const states[] = {"no", "a valid", "an invalid"};
-    for (int type = 0; type < 4; ++type) {
+    for (const Outcome& outcome : outcomes) {
         for (int order = 0; order < 3; ++order) {
-            for (int response = 0; response < 3; ++response) {
-                QTest::addRow("type %d, %s order, %s response", type, states[order], states[response])
-                    << type << order << response;
-            }
+            QTest::addRow("type %d, %s order, %s automatic response, %s interactive response", outcome.type,
+                          states[order], states[outcome.automatic], states[outcome.interactive])
+                << outcome.type << order << outcome.automatic << outcome.interactive << outcome.fits << outcome.problem;
         }
     }
 }
@@ -687,40 +918,22 @@ void ResponserootTest::combinations()
 {
     QFETCH(int, type);
     QFETCH(int, order);
-    QFETCH(int, response);
+    QFETCH(int, automatic);
+    QFETCH(int, interactive);
+    QFETCH(bool, contentFits);
+    QFETCH(QString, contentProblem);
 
     XmlRespRoot root;
     root.setType(static_cast<XmlRespRoot::RespType>(type));
     if (order != 0)
         root.setOrderDef(order == 1 ? orderDef(QStringLiteral("host")) : XmlOrderDef());
-    if (response != 0)
-        root.setAutoResp(autoResp(response == 1 ? QStringLiteral("ref") : QString()));
+    if (automatic != 0)
+        root.setAutoResp(autoResp(automatic == 1 ? QStringLiteral("ref") : QString()));
+    if (interactive != 0)
+        root.setInteractResp(interactResp(interactive == 1 ? QStringLiteral("link") : QString()));
 
-    bool valid = order != 2;
-    QString problems;
-    switch (type) {
-    case 0:
-        valid = false;
-        problems = text("Type not defined.\n");
-        break;
-    case 1: // with an automatic response just as without
-        valid = false;
-        problems = text("Type interactive but no content\n");
-        break;
-    case 2:
-        valid = valid && response == 1;
-        if (response == 0)
-            problems = text("Type automatic but no content\n");
-        else if (response == 2)
-            problems = text("+++ in XmlAutoRespType Begin:\n"
-                            "+++ in XmlreferenceType Begin:\n"
-                            "String too short (min. 1)\n"
-                            "--- in XmlreferenceType End\n"
-                            "--- in XmlAutoRespType End\n");
-        break;
-    default: // a type beyond the known ones: the content is not looked at
-        break;
-    }
+    const bool valid = contentFits && order != 2;
+    QString problems = contentProblem;
     if (order == 2)
         problems += text("+++ in XmlOrderDef Begin:\n"
                          "Id not set.\n"
@@ -747,6 +960,7 @@ void ResponserootTest::reset()
     root.setTimestamp(someTime());
     root.setOrderDef(orderDef(QStringLiteral("host")));
     root.setAutoResp(autoResp(QStringLiteral("ref")));
+    root.setInteractResp(interactResp(QStringLiteral("link")));
     const QDateTime before = QDateTime::currentDateTime();
     root.reset();
     const QDateTime after = QDateTime::currentDateTime();
@@ -759,6 +973,8 @@ void ResponserootTest::reset()
     QVERIFY(root.orderDef() == nullptr);
     QVERIFY(!root.hasAutoResp());
     QVERIFY(root.autoResp() == nullptr);
+    QVERIFY(!root.hasInteractResp());
+    QVERIFY(root.interactResp() == nullptr);
     QVERIFY(!root.isValid());
     QCOMPARE(root.syntaxError(), text("+++ in XmlRespRoot Begin:\nType not defined.\n--- in XmlRespRoot End"));
 }
