@@ -1,15 +1,19 @@
-#include "support/elementtest.h"
+#include "support/commandtest.h"
+#include "support/positions.h"
 
 #include <arvxml/calccommand.h>
 
-#include <memory>
 #include <type_traits>
 #include <utility>
 
 using namespace ArvXml;
+using namespace CommandTest;
+using ElementTest::checkReadingFromElsewhere;
 using ElementTest::readError;
 using ElementTest::readFrom;
 using ElementTest::written;
+using TestValues::envelope;
+using TestValues::reference;
 
 namespace {
 
@@ -28,7 +32,6 @@ const QString bestSensorXml = QStringLiteral("<BestSensorCov><UseRxDFs><All/></U
 const QString referenceXml = QStringLiteral("<Reference>42</Reference>");
 
 const QString emptyXml = QStringLiteral("<Calculate><Reference></Reference></Calculate>");
-const QString countProblem = QStringLiteral("Too many or too few elements.\n");
 
 QString block(const QString& body)
 {
@@ -38,21 +41,6 @@ QString block(const QString& body)
 QString calculate(const QString& children)
 {
     return QStringLiteral("<Calculate>") + children + QStringLiteral("</Calculate>");
-}
-
-XmlReferenceType reference(const QString& text)
-{
-    XmlReferenceType reference;
-    reference.setReference(text);
-    return reference;
-}
-
-XmlOrderDef envelope(const QString& sender)
-{
-    XmlOrderDef envelope;
-    envelope.setOrderId(QStringLiteral("ARV240305140709042"));
-    envelope.setOrderSender(sender);
-    return envelope;
 }
 
 /// Shows what the base keeps for itself.
@@ -198,24 +186,8 @@ void CalccommandTest::defaults()
 void CalccommandTest::envelopeAndReference()
 {
     Calc command;
-    const XmlReferenceType* heldReference = &command.cmdReference();
-    command.setCmdReference(reference(QStringLiteral("42")));
-    QCOMPARE(&command.cmdReference(), heldReference);
-    QCOMPARE(command.cmdReference().reference(), QStringLiteral("42"));
-    command.setCmdReference(command.cmdReference());
-    QCOMPARE(command.cmdReference().reference(), QStringLiteral("42"));
-
-    const XmlOrderDef given = envelope(QStringLiteral("host"));
-    command.setOrderDef(given);
-    QVERIFY(command.hasOrderDef());
-    const XmlOrderDef* held = command.orderDef();
-    QVERIFY(held != &given);
-    QCOMPARE(held->orderId(), QStringLiteral("ARV240305140709042"));
-    command.setOrderDef(envelope(QStringLiteral("other")));
-    QCOMPARE(command.orderDef(), held);
-    QCOMPARE(held->orderSender(), QStringLiteral("other"));
-    command.setOrderDef(*held);
-    QCOMPARE(command.orderDef()->orderSender(), QStringLiteral("other"));
+    checkReferenceAccessors(command);
+    checkEnvelopeAccessors(command);
 
     // The envelope is neither written nor judged by the command, nor read.
     Calc full = commandWith(1);
@@ -587,51 +559,16 @@ void CalccommandTest::failures()
 void CalccommandTest::positions()
 {
     const QString xml = QStringLiteral("<Calculate>\n%1\n%2</Calculate>").arg(cepXml, referenceXml);
-    XmlCmdCalc command;
-
-    QXmlStreamReader fresh(xml);
-    command.processXml(fresh, calcTag);
-    QVERIFY(fresh.errorString().startsWith(QLatin1String("in XmlCmdCalc (line 1, column ")));
-    QVERIFY(fresh.errorString().endsWith(QLatin1String("): Unexpected token \"StartDocument\".")));
-
-    QXmlStreamReader atStart(xml);
-    atStart.readNext();
-    command.processXml(atStart, calcTag);
-    QCOMPARE(atStart.errorString(),
-             QStringLiteral("in XmlCmdCalc (line 1, column 11): Unexpected element \"Calculate\"."));
-    QCOMPARE(written(command, calcTag), emptyXml);
-
-    QXmlStreamReader onText(xml);
-    onText.readNextStartElement();
-    onText.readNext();
-    QVERIFY(onText.isCharacters());
-    command.processXml(onText, calcTag);
-    QCOMPARE(onText.errorString(), QString());
-    QVERIFY(command.isValid());
-    command.processXml(onText, calcTag);
-    QCOMPARE(onText.errorString(),
-             QStringLiteral("in XmlCmdCalc (line 3, column 37): Unexpected token \"EndDocument\"."));
-
-    QXmlStreamReader atEnd(xml);
-    while (!atEnd.atEnd())
-        atEnd.readNext();
-    XmlCmdCalc untouched;
-    untouched.processXml(atEnd, calcTag);
-    QVERIFY(!atEnd.hasError());
-    QCOMPARE(written(untouched, calcTag), emptyXml);
-
-    QXmlStreamReader otherTag(xml);
-    otherTag.readNextStartElement();
-    command.processXml(otherTag, QStringLiteral("Other"));
-    QCOMPARE(otherTag.errorString(),
-             QStringLiteral("in XmlCmdCalc (line 3, column 37): Unexpected token \"EndElement\"."));
-
-    QXmlStreamReader inDocument(QStringLiteral("<Doc>%1<Next/></Doc>").arg(xml));
-    inDocument.readNextStartElement();
-    inDocument.readNextStartElement();
-    command.processXml(inDocument, calcTag);
-    QVERIFY(inDocument.readNextStartElement());
-    QCOMPARE(inDocument.name().toString(), QStringLiteral("Next"));
+    checkReadingFromElsewhere<XmlCmdCalc>({
+        QStringLiteral("XmlCmdCalc"),
+        calcTag,
+        xml,
+        emptyXml,
+        QStringLiteral("in XmlCmdCalc (line 1, column 11): Unexpected element \"Calculate\"."),
+        QStringLiteral("in XmlCmdCalc (line 3, column 37): Unexpected token \"EndDocument\"."),
+        QStringLiteral("Other"),
+        QStringLiteral("in XmlCmdCalc (line 3, column 37): Unexpected token \"EndElement\"."),
+    });
 }
 
 QTEST_APPLESS_MAIN(CalccommandTest)

@@ -1,4 +1,5 @@
 #include "support/elementtest.h"
+#include "support/values.h"
 
 #include <arvxml/coverageorders.h>
 
@@ -11,37 +12,17 @@ using namespace ArvXml;
 using ElementTest::readError;
 using ElementTest::readFrom;
 using ElementTest::written;
+using TestValues::grid;
+using TestValues::names;
+using TestValues::objName;
 
 namespace {
-
-XmlNameAllMultiType names(const QString& name)
-{
-    XmlObjNameType objName;
-    objName.setObjName(name);
-    XmlNameAllMultiType names;
-    names.setObjNames({&objName});
-    return names;
-}
-
-XmlResultGridType grid(int value)
-{
-    XmlResultGridType grid;
-    grid.setSize(static_cast<XmlResultGridType::GridSize>(value));
-    return grid;
-}
 
 XmlCepProbType prob(int value)
 {
     XmlCepProbType prob;
     prob.setProb(static_cast<XmlCepProbType::Prob>(value));
     return prob;
-}
-
-XmlObjNameType comment(const QString& text)
-{
-    XmlObjNameType comment;
-    comment.setObjName(text);
-    return comment;
 }
 
 // The four orders under common names. The fourth child is that which only some have.
@@ -749,13 +730,13 @@ void CoverageordersTest::bestSensorComment()
     QCOMPARE(written(order, QStringLiteral("BestSensorCov")), xml);
 
     const XmlObjNameType* held = order.comment();
-    order.setComment(comment(QStringLiteral("Other")));
+    order.setComment(objName(QStringLiteral("Other")));
     QCOMPARE(order.comment(), held);
     QCOMPARE(held->objName(), QStringLiteral("Other"));
     order.setComment(*held);
     QCOMPARE(order.comment()->objName(), QStringLiteral("Other"));
     XmlBestSensorType fresh;
-    const XmlObjNameType given = comment(QStringLiteral("Given"));
+    const XmlObjNameType given = objName(QStringLiteral("Given"));
     fresh.setComment(given);
     QVERIFY(fresh.hasComment());
     QVERIFY(fresh.comment() != &given);
@@ -763,7 +744,7 @@ void CoverageordersTest::bestSensorComment()
     // Presence on either side of an assignment.
     XmlBestSensorType copy(order);
     QVERIFY(copy.comment() != order.comment());
-    order.setComment(comment(QStringLiteral("New")));
+    order.setComment(objName(QStringLiteral("New")));
     QCOMPARE(copy.comment()->objName(), QStringLiteral("Other"));
     copy = order;
     QCOMPARE(copy.comment()->objName(), QStringLiteral("New"));
@@ -776,7 +757,7 @@ void CoverageordersTest::bestSensorComment()
     QVERIFY(!other.hasComment());
 
     // The comment is reported after the grid.
-    order.setComment(comment(QString()));
+    order.setComment(objName(QString()));
     QVERIFY(!order.isValid());
     order.setResultGrid(grid(0));
     QCOMPARE(order.syntaxError(),
@@ -792,7 +773,7 @@ void CoverageordersTest::bestSensorComment()
     QVERIFY(!order.hasComment());
 
     // One read is a new one; one not mentioned stays.
-    order.setComment(comment(QStringLiteral("Kept")));
+    order.setComment(objName(QStringLiteral("Kept")));
     QCOMPARE(readError(order, QStringLiteral("<B><UseRxDFs><All/></UseRxDFs><AOIs><All/></AOIs></B>")), QString());
     QCOMPARE(order.comment()->objName(), QStringLiteral("Kept"));
     QCOMPARE(readError(order, QStringLiteral("<B><UseRxDFs><All/></UseRxDFs><AOIs><All/></AOIs><Comment/></B>")),

@@ -1,4 +1,5 @@
 #include "support/elementtest.h"
+#include "support/values.h"
 
 #include <arvxml/resultgrid.h>
 
@@ -10,6 +11,7 @@ using ArvXml::XmlResultGridType;
 using ElementTest::readError;
 using ElementTest::readFrom;
 using ElementTest::written;
+using TestValues::grid;
 
 namespace {
 
@@ -21,13 +23,6 @@ const QString sizeError = QStringLiteral("+++ in XmlResultGridType Begin:\n"
 XmlResultGridType::GridSize size(int value)
 {
     return static_cast<XmlResultGridType::GridSize>(value);
-}
-
-XmlResultGridType grid(int value)
-{
-    XmlResultGridType grid;
-    grid.setSize(size(value));
-    return grid;
 }
 
 /// Shows what the base keeps for itself.

@@ -1,4 +1,5 @@
-#include "support/elementtest.h"
+#include "support/positions.h"
+#include "support/values.h"
 
 #include <arvxml/siteorders.h>
 
@@ -7,9 +8,12 @@
 #include <utility>
 
 using namespace ArvXml;
+using ElementTest::checkReadingFromElsewhere;
 using ElementTest::readError;
 using ElementTest::readFrom;
 using ElementTest::written;
+using TestValues::grid;
+using TestValues::names;
 
 namespace {
 
@@ -28,22 +32,6 @@ const QString nameTooShort = QStringLiteral("+++ in XmlNameAllMultiType Begin:\n
 QString sitesBlock(const QString& body)
 {
     return QStringLiteral("+++ in XmlFindSitesType Begin:\n") + body + QStringLiteral("--- in XmlFindSitesType End");
-}
-
-XmlNameAllMultiType names(const QString& name)
-{
-    XmlObjNameType objName;
-    objName.setObjName(name);
-    XmlNameAllMultiType names;
-    names.setObjNames({&objName});
-    return names;
-}
-
-XmlResultGridType grid(int value)
-{
-    XmlResultGridType grid;
-    grid.setSize(static_cast<XmlResultGridType::GridSize>(value));
-    return grid;
 }
 
 XmlFindSitesType::Distribution distribution(int value)
@@ -699,52 +687,16 @@ void SiteordersTest::sitesReuse()
 void SiteordersTest::sitesPositions()
 {
     const QString xml = QStringLiteral("<F>\n<DeploymentAreas><All/></DeploymentAreas></F>");
-    const QString tag = QStringLiteral("F");
-    XmlFindSitesType order;
-
-    QXmlStreamReader fresh(xml);
-    order.processXml(fresh, tag);
-    QVERIFY(fresh.errorString().startsWith(QLatin1String("in XmlFindSitesType (line 1, column ")));
-    QVERIFY(fresh.errorString().endsWith(QLatin1String("): Unexpected token \"StartDocument\".")));
-
-    QXmlStreamReader atStart(xml);
-    atStart.readNext();
-    order.processXml(atStart, tag);
-    QCOMPARE(atStart.errorString(),
-             QStringLiteral("in XmlFindSitesType (line 1, column 3): Unexpected token \"StartElement\": F."));
-    QVERIFY(!order.isValid());
-
-    QXmlStreamReader onText(xml);
-    onText.readNextStartElement();
-    onText.readNext();
-    QVERIFY(onText.isCharacters());
-    order.processXml(onText, tag);
-    QCOMPARE(onText.errorString(), QString());
-    QVERIFY(order.isValid());
-    order.processXml(onText, tag);
-    QCOMPARE(onText.errorString(),
-             QStringLiteral("in XmlFindSitesType (line 2, column 45): Unexpected token \"EndDocument\"."));
-
-    XmlFindSitesType untouched;
-    QXmlStreamReader atEnd(xml);
-    while (!atEnd.atEnd())
-        atEnd.readNext();
-    untouched.processXml(atEnd, tag);
-    QVERIFY(!atEnd.hasError());
-    QVERIFY(!untouched.isValid());
-
-    QXmlStreamReader otherTag(xml);
-    otherTag.readNextStartElement();
-    order.processXml(otherTag, QStringLiteral("f"));
-    QCOMPARE(otherTag.errorString(),
-             QStringLiteral("in XmlFindSitesType (line 2, column 45): Unexpected token \"EndElement\": F."));
-
-    QXmlStreamReader inDocument(QStringLiteral("<Doc>%1<Next/></Doc>").arg(xml));
-    inDocument.readNextStartElement();
-    inDocument.readNextStartElement();
-    order.processXml(inDocument, tag);
-    QVERIFY(inDocument.readNextStartElement());
-    QCOMPARE(inDocument.name().toString(), QStringLiteral("Next"));
+    checkReadingFromElsewhere<XmlFindSitesType>({
+        QStringLiteral("XmlFindSitesType"),
+        QStringLiteral("F"),
+        xml,
+        QStringLiteral("<F><DeploymentAreas><All/></DeploymentAreas></F>"),
+        QStringLiteral("in XmlFindSitesType (line 1, column 3): Unexpected token \"StartElement\": F."),
+        QStringLiteral("in XmlFindSitesType (line 2, column 45): Unexpected token \"EndDocument\"."),
+        QStringLiteral("f"),
+        QStringLiteral("in XmlFindSitesType (line 2, column 45): Unexpected token \"EndElement\": F."),
+    });
 }
 
 void SiteordersTest::sitesUnderTheTagOfAnInnerElement()
@@ -1034,52 +986,16 @@ void SiteordersTest::linkReuse()
 void SiteordersTest::linkPositions()
 {
     const QString xml = QStringLiteral("<I>\n<FirstName>A</FirstName><SecondName>B</SecondName></I>");
-    const QString tag = QStringLiteral("I");
-    XmlInterlinkPlanningType order;
-
-    QXmlStreamReader fresh(xml);
-    order.processXml(fresh, tag);
-    QVERIFY(fresh.errorString().startsWith(QLatin1String("in XmlInterlinkPlanningType (line 1, column ")));
-    QVERIFY(fresh.errorString().endsWith(QLatin1String("): Unexpected token \"StartDocument\".")));
-
-    QXmlStreamReader atStart(xml);
-    atStart.readNext();
-    order.processXml(atStart, tag);
-    QCOMPARE(atStart.errorString(),
-             QStringLiteral("in XmlInterlinkPlanningType (line 1, column 3): Unexpected token \"StartElement\": I."));
-    QVERIFY(!order.isValid());
-
-    QXmlStreamReader onText(xml);
-    onText.readNextStartElement();
-    onText.readNext();
-    QVERIFY(onText.isCharacters());
-    order.processXml(onText, tag);
-    QCOMPARE(onText.errorString(), QString());
-    QVERIFY(order.isValid());
-    order.processXml(onText, tag);
-    QCOMPARE(onText.errorString(),
-             QStringLiteral("in XmlInterlinkPlanningType (line 2, column 54): Unexpected token \"EndDocument\"."));
-
-    QXmlStreamReader atEnd(xml);
-    while (!atEnd.atEnd())
-        atEnd.readNext();
-    XmlInterlinkPlanningType untouched;
-    untouched.processXml(atEnd, tag);
-    QVERIFY(!atEnd.hasError());
-    QVERIFY(!untouched.isValid());
-
-    QXmlStreamReader otherTag(xml);
-    otherTag.readNextStartElement();
-    order.processXml(otherTag, QStringLiteral("i"));
-    QCOMPARE(otherTag.errorString(),
-             QStringLiteral("in XmlInterlinkPlanningType (line 2, column 54): Unexpected token \"EndElement\": I."));
-
-    QXmlStreamReader inDocument(QStringLiteral("<Doc>%1<Next/></Doc>").arg(xml));
-    inDocument.readNextStartElement();
-    inDocument.readNextStartElement();
-    order.processXml(inDocument, tag);
-    QVERIFY(inDocument.readNextStartElement());
-    QCOMPARE(inDocument.name().toString(), QStringLiteral("Next"));
+    checkReadingFromElsewhere<XmlInterlinkPlanningType>({
+        QStringLiteral("XmlInterlinkPlanningType"),
+        QStringLiteral("I"),
+        xml,
+        QStringLiteral("<I><FirstName></FirstName><SecondName></SecondName></I>"),
+        QStringLiteral("in XmlInterlinkPlanningType (line 1, column 3): Unexpected token \"StartElement\": I."),
+        QStringLiteral("in XmlInterlinkPlanningType (line 2, column 54): Unexpected token \"EndDocument\"."),
+        QStringLiteral("i"),
+        QStringLiteral("in XmlInterlinkPlanningType (line 2, column 54): Unexpected token \"EndElement\": I."),
+    });
 }
 
 QTEST_APPLESS_MAIN(SiteordersTest)

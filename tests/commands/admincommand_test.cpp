@@ -1,4 +1,5 @@
-#include "support/elementtest.h"
+#include "support/commandtest.h"
+#include "support/positions.h"
 
 #include <arvxml/admincommand.h>
 
@@ -6,9 +7,13 @@
 #include <utility>
 
 using namespace ArvXml;
+using namespace CommandTest;
+using ElementTest::checkReadingFromElsewhere;
 using ElementTest::readError;
 using ElementTest::readFrom;
 using ElementTest::written;
+using TestValues::envelope;
+using TestValues::reference;
 
 namespace {
 
@@ -16,28 +21,10 @@ const QString adminTag = QStringLiteral("Administrative");
 const QString queryXml = QStringLiteral("<Administrative><QueryVersion/><Reference>42</Reference></Administrative>");
 const QString emptyXml = QStringLiteral("<Administrative><Reference></Reference></Administrative>");
 const QString typeProblem = QStringLiteral("Invalid Administrative command type\n");
-const QString shortReference = QStringLiteral("+++ in XmlreferenceType Begin:\n"
-                                              "String too short (min. 1)\n"
-                                              "--- in XmlreferenceType End\n");
 
 QString block(const QString& body)
 {
     return QStringLiteral("+++ in XmlCmdAdmin Begin:\n") + body + QStringLiteral("--- in XmlCmdAdmin End");
-}
-
-XmlReferenceType reference(const QString& text)
-{
-    XmlReferenceType reference;
-    reference.setReference(text);
-    return reference;
-}
-
-XmlOrderDef envelope(const QString& sender)
-{
-    XmlOrderDef envelope;
-    envelope.setOrderId(QStringLiteral("ARV240305140709042"));
-    envelope.setOrderSender(sender);
-    return envelope;
 }
 
 /// Shows what the base keeps for itself.
@@ -95,32 +82,17 @@ void AdmincommandTest::defaults()
     QVERIFY(!command.hasOrderDef());
     QVERIFY(!command.orderDef());
     QVERIFY(!command.isValid());
-    QCOMPARE(command.syntaxError(), block(typeProblem + shortReference));
+    QCOMPARE(command.syntaxError(), block(typeProblem + referenceProblem));
     QCOMPARE(written(command, adminTag), emptyXml);
 }
 
 void AdmincommandTest::accessors()
 {
     Admin command;
-    const XmlReferenceType* heldReference = &command.cmdReference();
-    command.setCmdReference(reference(QStringLiteral("42")));
-    QCOMPARE(&command.cmdReference(), heldReference);
-    QCOMPARE(command.cmdReference().reference(), QStringLiteral("42"));
-    command.setCmdReference(command.cmdReference());
-    QCOMPARE(command.cmdReference().reference(), QStringLiteral("42"));
+    checkReferenceAccessors(command);
     QCOMPARE(written(command, adminTag), QStringLiteral("<Administrative><Reference>42</Reference></Administrative>"));
 
-    const XmlOrderDef given = envelope(QStringLiteral("host"));
-    command.setOrderDef(given);
-    QVERIFY(command.hasOrderDef());
-    const XmlOrderDef* held = command.orderDef();
-    QVERIFY(held != &given);
-    QCOMPARE(held->orderId(), QStringLiteral("ARV240305140709042"));
-    command.setOrderDef(envelope(QStringLiteral("other")));
-    QCOMPARE(command.orderDef(), held);
-    QCOMPARE(held->orderSender(), QStringLiteral("other"));
-    command.setOrderDef(*held);
-    QCOMPARE(command.orderDef()->orderSender(), QStringLiteral("other"));
+    checkEnvelopeAccessors(command);
 
     // The envelope is neither written nor judged by the command.
     auto query = readFrom<XmlCmdAdmin>(queryXml);
@@ -166,9 +138,9 @@ void AdmincommandTest::copies()
 
     Admin faulty;
     faulty.syntaxError();
-    QCOMPARE(Admin(faulty).mySyntaxError(), block(typeProblem + shortReference));
+    QCOMPARE(Admin(faulty).mySyntaxError(), block(typeProblem + referenceProblem));
     copy = faulty;
-    QCOMPARE(copy.mySyntaxError(), block(typeProblem + shortReference));
+    QCOMPARE(copy.mySyntaxError(), block(typeProblem + referenceProblem));
 }
 
 void AdmincommandTest::reading_data()
@@ -214,7 +186,7 @@ void AdmincommandTest::reading()
     QCOMPARE(command.cmdReference().reference(), reference);
     QVERIFY(!command.hasOrderDef());
     QCOMPARE(command.isValid(), !reference.isEmpty());
-    QCOMPARE(command.syntaxError(), reference.isEmpty() ? block(shortReference) : QString());
+    QCOMPARE(command.syntaxError(), reference.isEmpty() ? block(referenceProblem) : QString());
     QCOMPARE(
         written(command, adminTag),
         QStringLiteral("<Administrative><QueryVersion/><Reference>%1</Reference></Administrative>").arg(reference));
@@ -341,52 +313,16 @@ void AdmincommandTest::reuse()
 void AdmincommandTest::positions()
 {
     const QString xml = QStringLiteral("<Administrative>\n<QueryVersion/>\n<Reference>42</Reference></Administrative>");
-    XmlCmdAdmin command;
-
-    QXmlStreamReader fresh(xml);
-    command.processXml(fresh, adminTag);
-    QVERIFY(fresh.errorString().startsWith(QLatin1String("in XmlCmdAdmin (line 1, column ")));
-    QVERIFY(fresh.errorString().endsWith(QLatin1String("): Unexpected token \"StartDocument\".")));
-
-    QXmlStreamReader atStart(xml);
-    atStart.readNext();
-    command.processXml(atStart, adminTag);
-    QCOMPARE(atStart.errorString(),
-             QStringLiteral("in XmlCmdAdmin (line 1, column 16): Unexpected element \"Administrative\"."));
-    QCOMPARE(written(command, adminTag), emptyXml);
-
-    // There is no check of the position: on characters inside, reading goes on.
-    QXmlStreamReader onText(xml);
-    onText.readNextStartElement();
-    onText.readNext();
-    QVERIFY(onText.isCharacters());
-    command.processXml(onText, adminTag);
-    QCOMPARE(onText.errorString(), QString());
-    QVERIFY(command.isValid());
-    command.processXml(onText, adminTag);
-    QCOMPARE(onText.errorString(),
-             QStringLiteral("in XmlCmdAdmin (line 3, column 42): Unexpected token \"EndDocument\"."));
-
-    QXmlStreamReader atEnd(xml);
-    while (!atEnd.atEnd())
-        atEnd.readNext();
-    XmlCmdAdmin untouched;
-    untouched.processXml(atEnd, adminTag);
-    QVERIFY(!atEnd.hasError());
-    QCOMPARE(written(untouched, adminTag), emptyXml);
-
-    QXmlStreamReader otherTag(xml);
-    otherTag.readNextStartElement();
-    command.processXml(otherTag, QStringLiteral("administrative"));
-    QCOMPARE(otherTag.errorString(),
-             QStringLiteral("in XmlCmdAdmin (line 3, column 42): Unexpected token \"EndElement\"."));
-
-    QXmlStreamReader inDocument(QStringLiteral("<Doc>%1<Next/></Doc>").arg(xml));
-    inDocument.readNextStartElement();
-    inDocument.readNextStartElement();
-    command.processXml(inDocument, adminTag);
-    QVERIFY(inDocument.readNextStartElement());
-    QCOMPARE(inDocument.name().toString(), QStringLiteral("Next"));
+    checkReadingFromElsewhere<XmlCmdAdmin>({
+        QStringLiteral("XmlCmdAdmin"),
+        adminTag,
+        xml,
+        emptyXml,
+        QStringLiteral("in XmlCmdAdmin (line 1, column 16): Unexpected element \"Administrative\"."),
+        QStringLiteral("in XmlCmdAdmin (line 3, column 42): Unexpected token \"EndDocument\"."),
+        QStringLiteral("administrative"),
+        QStringLiteral("in XmlCmdAdmin (line 3, column 42): Unexpected token \"EndElement\"."),
+    });
 }
 
 void AdmincommandTest::underTheTagOfTheQuery()

@@ -1,4 +1,4 @@
-#include "support/elementtest.h"
+#include "support/commandtest.h"
 
 #include <arvxml/createdelete.h>
 
@@ -6,9 +6,12 @@
 #include <utility>
 
 using namespace ArvXml;
+using namespace CommandTest;
 using ElementTest::readError;
 using ElementTest::readFrom;
 using ElementTest::written;
+using TestValues::envelope;
+using TestValues::reference;
 
 namespace {
 
@@ -77,26 +80,6 @@ const QString chainXml = QStringLiteral("<SINAD version=\"1.0\">12.000000</SINAD
 
 const QString referenceXml = QStringLiteral("<Reference>42</Reference>");
 const QString noReferenceXml = QStringLiteral("<Reference></Reference>");
-
-const QString referenceProblem = QStringLiteral("+++ in XmlreferenceType Begin:\n"
-                                                "String too short (min. 1)\n"
-                                                "--- in XmlreferenceType End\n");
-const QString countProblem = QStringLiteral("Too many or too few elements.\n");
-
-XmlReferenceType reference(const QString& text)
-{
-    XmlReferenceType reference;
-    reference.setReference(text);
-    return reference;
-}
-
-XmlOrderDef envelope(const QString& sender)
-{
-    XmlOrderDef envelope;
-    envelope.setOrderId(QStringLiteral("ARV240305140709042"));
-    envelope.setOrderSender(sender);
-    return envelope;
-}
 
 /// A slot of a command.
 template <typename C>
@@ -314,17 +297,7 @@ void checkReferenceAndEnvelope()
     QCOMPARE(one.cmdReference().reference(), QStringLiteral("r1"));
     QVERIFY(!one.hasOrderDef());
 
-    const XmlOrderDef host = envelope(QStringLiteral("host"));
-    one.setOrderDef(host);
-    QVERIFY(one.hasOrderDef());
-    const XmlOrderDef* held = one.orderDef();
-    QVERIFY(held != &host);
-    QCOMPARE(held->orderId(), QStringLiteral("ARV240305140709042"));
-    one.setOrderDef(envelope(QStringLiteral("other")));
-    QCOMPARE(one.orderDef(), held);
-    QCOMPARE(held->orderSender(), QStringLiteral("other"));
-    one.setOrderDef(*held);
-    QCOMPARE(one.orderDef()->orderSender(), QStringLiteral("other"));
+    checkEnvelopeAccessors(one);
     QCOMPARE(filledSlots(one), 0);
 
     // The envelope is not written, judged or reported.

@@ -1,4 +1,6 @@
 #include "support/elementtest.h"
+#include "support/responsetest.h"
+#include "support/values.h"
 
 #include <arvxml/automaticresponse.h>
 
@@ -6,26 +8,12 @@
 #include <utility>
 
 using namespace ArvXml;
+using namespace ResponseTest;
+using TestValues::reference;
+using TestValues::someTime;
+using TestValues::text;
 
 namespace {
-
-/// A document that is refused, and the error.
-struct Refusal {
-    QString xml;
-    QString error;
-};
-
-/// "|" in \a marked shows up to where the document has been read when \a message is raised.
-Refusal refusal(const QString& marked, const QString& className, const QString& message)
-{
-    const int mark = marked.indexOf(QLatin1Char('|'));
-    const QString before = marked.left(mark);
-    const int line = before.count(QLatin1Char('\n')) + 1;
-    const int column = mark - (before.lastIndexOf(QLatin1Char('\n')) + 1);
-    return {before + marked.mid(mark + 1),
-            QStringLiteral("in %1 (line %2, column %3): %4.")
-                .arg(className, QString::number(line), QString::number(column), message)};
-}
 
 /// Shows the error text that is kept in the element.
 struct Probe : XmlAutoRespType {
@@ -33,18 +21,6 @@ struct Probe : XmlAutoRespType {
 };
 
 using Response = XmlAutoRespType;
-
-QString text(const char* latin1)
-{
-    return QString::fromLatin1(latin1);
-}
-
-XmlReferenceType reference(const QString& content)
-{
-    XmlReferenceType element;
-    element.setReference(content);
-    return element;
-}
 
 /// A valid grid result; without a file name it is not.
 XmlGridResultType gridResult(const QString& filename)
@@ -71,11 +47,6 @@ XmlInterlinkResultType interlinkResult(const QString& resultText)
     result.setParameters(parameters);
     result.setResultText(resultText);
     return result;
-}
-
-QDateTime someTime()
-{
-    return QDateTime(QDate(2024, 3, 5), QTime(14, 7, 9));
 }
 
 const char gridXml[] = "<GridResult type=\"CEP\"><CEP><Parameter><UseDFs><All/></UseDFs><AOIs><All/></AOIs></Parameter>"
@@ -314,13 +285,7 @@ void AutomaticresponseTest::errorTextIsCopiedAndReset()
     source.setStatus(Response::StatusFault);
     source.syntaxError();
     const QString error = text("+++ in XmlAutoRespType Begin:\nMust have status 'ack'\n--- in XmlAutoRespType End");
-    Probe copy(source);
-    QCOMPARE(copy.mySyntaxError(), error);
-    Probe assigned;
-    assigned = source;
-    QCOMPARE(assigned.mySyntaxError(), error);
-    assigned.reset();
-    QCOMPARE(assigned.mySyntaxError(), QString());
+    checkKeptErrorText(source, error);
 }
 
 void AutomaticresponseTest::combinations_data()
@@ -738,12 +703,7 @@ void AutomaticresponseTest::refused()
     QFETCH(QString, className);
     QFETCH(QString, message);
 
-    const Refusal refused = refusal(marked, className, message);
-    QXmlStreamReader reader(refused.xml);
-    reader.readNextStartElement();
-    Response response;
-    response.processXml(reader, QStringLiteral("Automatic"));
-    QCOMPARE(reader.errorString(), refused.error);
+    checkRefused<Response>(refusal(marked, className, message), QStringLiteral("Automatic"));
 }
 
 void AutomaticresponseTest::timeRead_data()
@@ -897,15 +857,7 @@ void AutomaticresponseTest::nestedElementInText()
 
 void AutomaticresponseTest::wrongPosition_data()
 {
-    QTest::addColumn<int>("tokens");
-    QTest::addColumn<QString>("place");
-
-    QTest::newRow("before the first token") << 0 << text("line 1, column 0");
-    QTest::newRow("on the start of the document") << 1 << text("line 1, column 21");
-    QTest::newRow("on characters") << 3 << text("line 2, column 21");
-    QTest::newRow("on a comment") << 4 << text("line 2, column 28");
-    QTest::newRow("on an end tag") << 5 << text("line 2, column 32");
-    QTest::newRow("at the end of the document") << 6 << text("line 2, column 32");
+    addWrongPositions("line 2, column 21", "line 2, column 28", "line 2, column 32");
 }
 
 void AutomaticresponseTest::wrongPosition()

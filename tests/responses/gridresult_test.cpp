@@ -1,4 +1,6 @@
 #include "support/elementtest.h"
+#include "support/responsetest.h"
+#include "support/values.h"
 
 #include <arvxml/gridresult.h>
 
@@ -7,26 +9,11 @@
 #include <utility>
 
 using namespace ArvXml;
+using namespace ResponseTest;
+using TestValues::names;
+using TestValues::text;
 
 namespace {
-
-/// A document that is refused, and the error.
-struct Refusal {
-    QString xml;
-    QString error;
-};
-
-/// "|" in \a marked shows up to where the document has been read when \a message is raised.
-Refusal refusal(const QString& marked, const QString& className, const QString& message)
-{
-    const int mark = marked.indexOf(QLatin1Char('|'));
-    const QString before = marked.left(mark);
-    const int line = before.count(QLatin1Char('\n')) + 1;
-    const int column = mark - (before.lastIndexOf(QLatin1Char('\n')) + 1);
-    return {before + marked.mid(mark + 1),
-            QStringLiteral("in %1 (line %2, column %3): %4.")
-                .arg(className, QString::number(line), QString::number(column), message)};
-}
 
 /// Shows the error text that is kept in the element.
 template <typename Element>
@@ -59,16 +46,6 @@ const struct Kind {
 };
 constexpr int kindCount = 5;
 
-/// A list with one name; an empty name makes it invalid.
-XmlNameAllMultiType named(const QString& name)
-{
-    XmlObjNameType objName;
-    objName.setObjName(name);
-    XmlNameAllMultiType names;
-    names.setObjNames({&objName});
-    return names;
-}
-
 XmlNameAllMultiType all()
 {
     XmlNameAllMultiType names;
@@ -79,14 +56,14 @@ XmlNameAllMultiType all()
 XmlFindSitesType findSites(const QString& name)
 {
     XmlFindSitesType parameters;
-    parameters.setDeploymentAreas(named(name));
+    parameters.setDeploymentAreas(names(name));
     return parameters;
 }
 
 XmlCepType cep(const QString& name)
 {
     XmlCepType parameters;
-    parameters.setUseDFs(named(name));
+    parameters.setUseDFs(names(name));
     parameters.setAOIs(all());
     return parameters;
 }
@@ -94,7 +71,7 @@ XmlCepType cep(const QString& name)
 XmlDetectProbType detectProb(const QString& name)
 {
     XmlDetectProbType parameters;
-    parameters.setUseRxDFs(named(name));
+    parameters.setUseRxDFs(names(name));
     parameters.setAOIs(all());
     return parameters;
 }
@@ -102,7 +79,7 @@ XmlDetectProbType detectProb(const QString& name)
 XmlDfCovType dfCov(const QString& name)
 {
     XmlDfCovType parameters;
-    parameters.setUseDFs(named(name));
+    parameters.setUseDFs(names(name));
     parameters.setAOIs(all());
     return parameters;
 }
@@ -110,7 +87,7 @@ XmlDfCovType dfCov(const QString& name)
 XmlBestSensorType bestSensor(const QString& name)
 {
     XmlBestSensorType parameters;
-    parameters.setUseRxDFs(named(name));
+    parameters.setUseRxDFs(names(name));
     parameters.setAOIs(all());
     return parameters;
 }
@@ -197,11 +174,6 @@ QString writtenSets(int sets, const QString& name, const QString& filename)
 QString written(const Result& result)
 {
     return ElementTest::written(result, QStringLiteral("G"));
-}
-
-QString text(const char* latin1)
-{
-    return QString::fromLatin1(latin1);
 }
 
 XmlGridValuesType values(const QString& version, const QString& unit, double min, double max)
@@ -333,7 +305,7 @@ void GridresultTest::parametersAreCopiedAndAssigned()
 
     XmlCepType given = cep(QStringLiteral("given"));
     result.setCep(given);
-    given.setUseDFs(named(QStringLiteral("changed")));
+    given.setUseDFs(names(QStringLiteral("changed")));
     QCOMPARE(result.cep()->useDFs()->objNames().first()->objName(), QStringLiteral("given"));
 }
 
@@ -394,26 +366,14 @@ void GridresultTest::errorTextIsCopiedAndReset()
     const QString resultText = QStringLiteral("+++ in XmlGridResultType Begin:\n"
                                               "Type not defined\n"
                                               "--- in XmlGridResultType End");
-    Probe<XmlGridResultType> resultCopy(result);
-    QCOMPARE(resultCopy.mySyntaxError(), resultText);
-    Probe<XmlGridResultType> resultAssigned;
-    resultAssigned = result;
-    QCOMPARE(resultAssigned.mySyntaxError(), resultText);
-    resultAssigned.reset();
-    QCOMPARE(resultAssigned.mySyntaxError(), QString());
+    checkKeptErrorText(result, resultText);
 
     Probe<XmlGridValuesType> range;
     range.syntaxError();
     const QString rangeText = QStringLiteral("+++ in XmlGridValuesType Begin:\n"
                                              "Missing mandatory attributes\n"
                                              "--- in XmlGridValuesType End");
-    Probe<XmlGridValuesType> rangeCopy(range);
-    QCOMPARE(rangeCopy.mySyntaxError(), rangeText);
-    Probe<XmlGridValuesType> rangeAssigned;
-    rangeAssigned = range;
-    QCOMPARE(rangeAssigned.mySyntaxError(), rangeText);
-    rangeAssigned.reset();
-    QCOMPARE(rangeAssigned.mySyntaxError(), QString());
+    checkKeptErrorText(range, rangeText);
 }
 
 void GridresultTest::writtenResult_data()
@@ -787,15 +747,7 @@ void GridresultTest::useAfterFailedRead()
 
 void GridresultTest::wrongPosition_data()
 {
-    QTest::addColumn<int>("tokens");
-    QTest::addColumn<QString>("place");
-
-    QTest::newRow("before the first token") << 0 << text("line 1, column 0");
-    QTest::newRow("on the start of the document") << 1 << text("line 1, column 21");
-    QTest::newRow("on characters") << 3 << text("line 2, column 56");
-    QTest::newRow("on a comment") << 4 << text("line 2, column 63");
-    QTest::newRow("on an end tag") << 5 << text("line 2, column 67");
-    QTest::newRow("at the end of the document") << 6 << text("line 2, column 67");
+    addWrongPositions("line 2, column 56", "line 2, column 63", "line 2, column 67");
 }
 
 void GridresultTest::wrongPosition()
@@ -1043,12 +995,7 @@ void GridresultTest::refusedInValues()
     QFETCH(QString, marked);
     QFETCH(QString, message);
 
-    const Refusal refused = refusal(marked, text("XmlGridValuesType"), message);
-    QXmlStreamReader reader(refused.xml);
-    reader.readNextStartElement();
-    XmlGridValuesType range;
-    range.processXml(reader, QStringLiteral("V"));
-    QCOMPARE(reader.errorString(), refused.error);
+    checkRefused<XmlGridValuesType>(refusal(marked, text("XmlGridValuesType"), message), QStringLiteral("V"));
 }
 
 void GridresultTest::attributesOfUsedValues_data()

@@ -1,4 +1,5 @@
 #include "support/elementtest.h"
+#include "support/responsetest.h"
 
 #include <arvxml/interactiveresponse.h>
 
@@ -6,6 +7,7 @@
 #include <utility>
 
 using namespace ArvXml;
+using namespace ResponseTest;
 using ElementTest::readError;
 using ElementTest::readFrom;
 using ElementTest::written;
@@ -21,24 +23,6 @@ struct Object : XmlResultObjectType {
     using XmlResultObjectType::classname;
     using XmlResultObjectType::mySyntaxError;
 };
-
-/// A document that is refused, and the error.
-struct Refusal {
-    QString xml;
-    QString error;
-};
-
-/// "|" in \a marked shows up to where the document has been read when \a message is raised.
-Refusal refusal(const QString& marked, const QString& className, const QString& message)
-{
-    const int mark = marked.indexOf(QLatin1Char('|'));
-    const QString before = marked.left(mark);
-    const int line = before.count(QLatin1Char('\n')) + 1;
-    const int column = mark - (before.lastIndexOf(QLatin1Char('\n')) + 1);
-    return {before + marked.mid(mark + 1),
-            QStringLiteral("in %1 (line %2, column %3): %4.")
-                .arg(className, QString::number(line), QString::number(column), message)};
-}
 
 const QString positionXml = QStringLiteral("<Position version=\"1.0\"><Longitude>7.500000</Longitude>"
                                            "<Latitude>47.250000</Latitude></Position>");

@@ -1,4 +1,6 @@
 #include "support/elementtest.h"
+#include "support/responsetest.h"
+#include "support/values.h"
 
 #include <arvxml/interlinkresult.h>
 
@@ -6,26 +8,10 @@
 #include <utility>
 
 using namespace ArvXml;
+using namespace ResponseTest;
+using TestValues::text;
 
 namespace {
-
-/// A document that is refused, and the error.
-struct Refusal {
-    QString xml;
-    QString error;
-};
-
-/// "|" in \a marked shows up to where the document has been read when \a message is raised.
-Refusal refusal(const QString& marked, const char* className, const QString& message)
-{
-    const int mark = marked.indexOf(QLatin1Char('|'));
-    const QString before = marked.left(mark);
-    const int line = before.count(QLatin1Char('\n')) + 1;
-    const int column = mark - (before.lastIndexOf(QLatin1Char('\n')) + 1);
-    return {before + marked.mid(mark + 1),
-            QStringLiteral("in %1 (line %2, column %3): %4.")
-                .arg(QLatin1String(className), QString::number(line), QString::number(column), message)};
-}
 
 /// Shows the error text that is kept in the element.
 struct Probe : XmlInterlinkResultType {
@@ -190,13 +176,7 @@ void InterlinkresultTest::errorTextIsCopiedAndReset()
     const QString text = QStringLiteral("+++ in XmlInterlinkResultType Begin:\n"
                                         "Missing Result Text\n"
                                         "--- in XmlInterlinkResultType End");
-    Probe copy(source);
-    QCOMPARE(copy.mySyntaxError(), text);
-    Probe assigned;
-    assigned = source;
-    QCOMPARE(assigned.mySyntaxError(), text);
-    assigned.reset();
-    QCOMPARE(assigned.mySyntaxError(), QString());
+    checkKeptErrorText(source, text);
 }
 
 void InterlinkresultTest::written_data()
@@ -312,7 +292,7 @@ void InterlinkresultTest::startTags()
     XmlInterlinkResultType element;
     const QString start = QStringLiteral("<InterlinkResult>%1<%2>").arg(before, tag);
     if (!accepted) {
-        const Refusal refused = refusal(start + QLatin1Char('|'), "XmlInterlinkResultType",
+        const Refusal refused = refusal(start + QLatin1Char('|'), text("XmlInterlinkResultType"),
                                         QStringLiteral("Unexpected token \"StartElement\": ") + tag);
         QCOMPARE(ElementTest::readError(element, refused.xml), refused.error);
         return;
@@ -363,8 +343,8 @@ void InterlinkresultTest::endTags()
 
     XmlInterlinkResultType element;
     const Refusal document =
-        refusal(QStringLiteral("<InterlinkResult>\n%1\n</InterlinkResult>|").arg(content), "XmlInterlinkResultType",
-                QStringLiteral("Unexpected token \"EndElement\": InterlinkResult"));
+        refusal(QStringLiteral("<InterlinkResult>\n%1\n</InterlinkResult>|").arg(content),
+                text("XmlInterlinkResultType"), QStringLiteral("Unexpected token \"EndElement\": InterlinkResult"));
     QCOMPARE(ElementTest::readError(element, document.xml), complete ? QString() : document.error);
 }
 
@@ -395,12 +375,7 @@ void InterlinkresultTest::refused()
     QFETCH(QString, className);
     QFETCH(QString, message);
 
-    const Refusal document = refusal(marked, qPrintable(className), message);
-    QXmlStreamReader reader(document.xml);
-    reader.readNextStartElement();
-    XmlInterlinkResultType element;
-    element.processXml(reader, QStringLiteral("I"));
-    QCOMPARE(reader.errorString(), document.error);
+    checkRefused<XmlInterlinkResultType>(refusal(marked, className, message), QStringLiteral("I"));
 }
 
 void InterlinkresultTest::otherTokensAreSkipped()

@@ -1,4 +1,6 @@
 #include "support/elementtest.h"
+#include "support/responsetest.h"
+#include "support/values.h"
 
 #include <arvxml/responseroot.h>
 
@@ -8,53 +10,24 @@
 #include <utility>
 
 using namespace ArvXml;
+using namespace ResponseTest;
+using TestValues::envelope;
+using TestValues::someTime;
+using TestValues::text;
 
 namespace {
-
-/// A document that is refused, and the error.
-struct Refusal {
-    QString xml;
-    QString error;
-};
-
-/// "|" in \a marked shows up to where the document has been read when \a message is raised.
-Refusal refusal(const QString& marked, const QString& className, const QString& message)
-{
-    const int mark = marked.indexOf(QLatin1Char('|'));
-    const QString before = marked.left(mark);
-    const int line = before.count(QLatin1Char('\n')) + 1;
-    const int column = mark - (before.lastIndexOf(QLatin1Char('\n')) + 1);
-    return {before + marked.mid(mark + 1),
-            QStringLiteral("in %1 (line %2, column %3): %4.")
-                .arg(className, QString::number(line), QString::number(column), message)};
-}
 
 /// Shows the error text that is kept in the element.
 struct Probe : XmlRespRoot {
     using XmlElementBase::mySyntaxError;
 };
 
-QString text(const char* latin1)
-{
-    return QString::fromLatin1(latin1);
-}
-
-XmlOrderDef orderDef(const QString& sender)
-{
-    XmlOrderDef order;
-    order.setOrderId(QStringLiteral("ARV240305140709042"));
-    order.setOrderSender(sender);
-    return order;
-}
-
 /// A valid response; without a reference it is not.
 XmlAutoRespType autoResp(const QString& reference)
 {
-    XmlReferenceType element;
-    element.setReference(reference);
     XmlAutoRespType response;
     response.setStatus(XmlAutoRespType::StatusAck);
-    response.setReference(element);
+    response.setReference(TestValues::reference(reference));
     response.setArvVersion(QStringLiteral("7.1"));
     return response;
 }
@@ -77,11 +50,6 @@ XmlInteractRespType interactResp(const QString& resultText)
 QString resultText(const XmlInteractRespType& response)
 {
     return response.hasInterlinkResult() ? response.interlinkResult()->resultText() : QStringLiteral("?");
-}
-
-QDateTime someTime()
-{
-    return QDateTime(QDate(2024, 3, 5), QTime(14, 7, 9));
 }
 
 /// Everything that \a root holds.
@@ -201,7 +169,7 @@ void ResponserootTest::accessors()
     QCOMPARE(root.timestamp(), someTime());
     root.setTimestamp(QDateTime());
     QVERIFY(!root.timestamp().isValid());
-    root.setOrderDef(orderDef(QStringLiteral("host")));
+    root.setOrderDef(envelope(QStringLiteral("host")));
     QVERIFY(root.hasOrderDef());
     QVERIFY(!root.hasAutoResp());
     root.setAutoResp(autoResp(QStringLiteral("ref")));
@@ -217,7 +185,7 @@ void ResponserootTest::accessors()
 void ResponserootTest::childrenAreCopiedAndAssigned()
 {
     XmlRespRoot root;
-    XmlOrderDef order = orderDef(QStringLiteral("first"));
+    XmlOrderDef order = envelope(QStringLiteral("first"));
     XmlAutoRespType response = autoResp(QStringLiteral("first"));
     XmlInteractRespType interactive = interactResp(QStringLiteral("first"));
     root.setTimestamp(someTime());
@@ -263,7 +231,7 @@ void ResponserootTest::copies()
 
     const auto fill = [](XmlRespRoot& root, int children, const QString& name) {
         if (children & 1)
-            root.setOrderDef(orderDef(name));
+            root.setOrderDef(envelope(name));
         if (children & 2)
             root.setAutoResp(autoResp(name));
         if (children & 4)
@@ -297,7 +265,7 @@ void ResponserootTest::selfAssignment()
     root.setType(XmlRespRoot::RespAutomatic);
     root.setFinal(false);
     root.setTimestamp(someTime());
-    root.setOrderDef(orderDef(QStringLiteral("host")));
+    root.setOrderDef(envelope(QStringLiteral("host")));
     root.setAutoResp(autoResp(QStringLiteral("ref")));
     root.setInteractResp(interactResp(QStringLiteral("link")));
     const XmlRespRoot& self = root;
@@ -310,13 +278,7 @@ void ResponserootTest::errorTextIsCopiedAndReset()
     Probe source;
     source.syntaxError();
     const QString error = text("+++ in XmlRespRoot Begin:\nType not defined.\n--- in XmlRespRoot End");
-    Probe copy(source);
-    QCOMPARE(copy.mySyntaxError(), error);
-    Probe assigned;
-    assigned = source;
-    QCOMPARE(assigned.mySyntaxError(), error);
-    assigned.reset();
-    QCOMPARE(assigned.mySyntaxError(), QString());
+    checkKeptErrorText(source, error);
 }
 
 void ResponserootTest::written_data()
@@ -378,7 +340,7 @@ void ResponserootTest::written()
     if (children.contains(QLatin1Char('A')))
         root.setAutoResp(autoResp(QStringLiteral("ref")));
     if (children.contains(QLatin1Char('O')))
-        root.setOrderDef(orderDef(QStringLiteral("host")));
+        root.setOrderDef(envelope(QStringLiteral("host")));
     QCOMPARE(::written(root), xml);
 }
 
@@ -699,12 +661,7 @@ void ResponserootTest::refused()
     QFETCH(QString, className);
     QFETCH(QString, message);
 
-    const Refusal refused = refusal(marked, className, message);
-    QXmlStreamReader reader(refused.xml);
-    reader.readNextStartElement();
-    XmlRespRoot root;
-    root.processXml(reader, QStringLiteral("R"));
-    QCOMPARE(reader.errorString(), refused.error);
+    checkRefused<XmlRespRoot>(refusal(marked, className, message), QStringLiteral("R"));
 }
 
 void ResponserootTest::readingIntoUsedObject()
@@ -712,7 +669,7 @@ void ResponserootTest::readingIntoUsedObject()
     XmlRespRoot root;
     root.setType(XmlRespRoot::RespInteractive);
     root.setFinal(false);
-    root.setOrderDef(orderDef(QStringLiteral("old")));
+    root.setOrderDef(envelope(QStringLiteral("old")));
     XmlAutoRespType old = autoResp(QStringLiteral("old"));
     old.setErrorMessage(QStringLiteral("old"));
     root.setAutoResp(old);
@@ -803,15 +760,7 @@ void ResponserootTest::useAfterFailedRead()
 
 void ResponserootTest::wrongPosition_data()
 {
-    QTest::addColumn<int>("tokens");
-    QTest::addColumn<QString>("place");
-
-    QTest::newRow("before the first token") << 0 << text("line 1, column 0");
-    QTest::newRow("on the start of the document") << 1 << text("line 1, column 21");
-    QTest::newRow("on characters") << 3 << text("line 2, column 25");
-    QTest::newRow("on a comment") << 4 << text("line 2, column 32");
-    QTest::newRow("on an end tag") << 5 << text("line 2, column 36");
-    QTest::newRow("at the end of the document") << 6 << text("line 2, column 36");
+    addWrongPositions("line 2, column 25", "line 2, column 32", "line 2, column 36");
 }
 
 void ResponserootTest::wrongPosition()
@@ -926,7 +875,7 @@ void ResponserootTest::combinations()
     XmlRespRoot root;
     root.setType(static_cast<XmlRespRoot::RespType>(type));
     if (order != 0)
-        root.setOrderDef(order == 1 ? orderDef(QStringLiteral("host")) : XmlOrderDef());
+        root.setOrderDef(order == 1 ? envelope(QStringLiteral("host")) : XmlOrderDef());
     if (automatic != 0)
         root.setAutoResp(autoResp(automatic == 1 ? QStringLiteral("ref") : QString()));
     if (interactive != 0)
@@ -958,7 +907,7 @@ void ResponserootTest::reset()
     root.setType(XmlRespRoot::RespAutomatic);
     root.setFinal(false);
     root.setTimestamp(someTime());
-    root.setOrderDef(orderDef(QStringLiteral("host")));
+    root.setOrderDef(envelope(QStringLiteral("host")));
     root.setAutoResp(autoResp(QStringLiteral("ref")));
     root.setInteractResp(interactResp(QStringLiteral("link")));
     const QDateTime before = QDateTime::currentDateTime();
