@@ -11,8 +11,8 @@ namespace ArvXml {
 /// The base of the named regions of a plan: a name, and as region either a rectangle or a polygon.
 ///
 /// Setting or reading one of the two removes the other. With neither the problem reads "Neither
-/// AreaRect nor AreaPolygon"; so it would with both. On the wire the region may come before the name,
-/// after which the name is refused.
+/// AreaRect nor AreaPolygon"; so it would with both. A region before the name is read, but then the name is
+/// refused.
 class ARVXML_EXPORT XmlPlanArea : public XmlVersionedComposite {
 public:
     const XmlObjNameType* objName() const { return &m_objName; }
@@ -100,7 +100,7 @@ public:
     bool hasRxThreshold() const { return m_rxThreshold.isPresent(); }
     /// The threshold of the receivers, null when absent; with a capital R.
     const XmlFieldstrengthType* RxThres() const { return m_rxThreshold.get(); }
-    void setRxThres(const XmlFieldstrengthType& threshold);
+    void setRxThres(const XmlFieldstrengthType& threshold) { m_rxThreshold.set(threshold); }
 
     /// As elsewhere, but a threshold held is reset and let go without being destroyed: it then belongs
     /// to whoever kept its pointer.

@@ -44,6 +44,9 @@ protected:
 
     void addErrors() override;
 
+    /// The reference: it is no part of the choice, and reported before it, though written behind it.
+    static Content referenceChild();
+
 private:
     bool holdsExactlyOne() const;
 };

@@ -10,13 +10,21 @@
 
 namespace ArvXml {
 
+/// The base of the two commands on planning objects. Reading resets the command first, the envelope
+/// included.
+class ARVXML_EXPORT XmlObjectCommand : public XmlChoiceCommand {
+protected:
+    using XmlChoiceCommand::XmlChoiceCommand;
+
+    quint32 openElement(ElementReader& in) override;
+};
+
 /// The command to create or replace one planning object:
 /// `<Create><Emitter version="1.0">...</Emitter><Reference>42</Reference></Create>`.
 ///
 /// Exactly one object, then the reference. A signal path is read under "Path" but written under
-/// "SignalPath", which the reader refuses: such a command cannot be read back. Reading resets the command
-/// first, the envelope included.
-class ARVXML_EXPORT XmlCmdCreate : public XmlChoiceCommand {
+/// "SignalPath", which the reader refuses: such a command cannot be read back.
+class ARVXML_EXPORT XmlCmdCreate : public XmlObjectCommand {
 public:
     XmlCmdCreate();
 
@@ -62,7 +70,6 @@ public:
 
 protected:
     const ElementForm& form() const override;
-    quint32 openElement(ElementReader& in) override;
 
 private:
     OptionalChild<XmlDeploymentAreaType> m_deploymentArea;
@@ -78,8 +85,8 @@ private:
 /// The command to delete planning objects of one kind, one by its name or all:
 /// `<Delete><Emitter><Name>TX 1</Name></Emitter><Reference>42</Reference></Delete>`.
 ///
-/// Exactly one kind, then the reference. Reading resets the command first, the envelope included.
-class ARVXML_EXPORT XmlCmdDelete : public XmlChoiceCommand {
+/// Exactly one kind, then the reference.
+class ARVXML_EXPORT XmlCmdDelete : public XmlObjectCommand {
 public:
     XmlCmdDelete();
 
@@ -125,7 +132,6 @@ public:
 
 protected:
     const ElementForm& form() const override;
-    quint32 openElement(ElementReader& in) override;
 
 private:
     OptionalChild<XmlNameAllType> m_deploymentArea;

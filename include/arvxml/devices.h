@@ -116,6 +116,8 @@ private:
 
 /// A length for a key: read as `<Map version="1.0"><Key>3</Key><Value unit="m">12</Value></Map>`.
 ///
+/// A value before the key is read, but then the key is refused.
+///
 /// It is written with the value twice, under "Key" and under "Value"; the key is never written. The key
 /// does not count for isValid(), though syntaxError() reports it. Another version than "1.0" is refused
 /// while reading.

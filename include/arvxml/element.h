@@ -18,9 +18,11 @@ struct EnumerationRules;
 
 /// What every element of the protocol can do.
 ///
-/// Getters of children return pointers that stay valid until the child is set anew, read, reset or
-/// removed, or its owner is assigned to or destroyed. An optional child is removed by reset() or by
-/// assigning an element that has none.
+/// Getters of children return pointers. One to a child that is always present is good as long as its
+/// owner lives; one to an optional child until the child is removed (by reset(), or by assigning an
+/// element that has none), or replaced by reading where its class says so; one to an item of a list until
+/// the list is set, read, reset or assigned to. After a move, an element is fit for reset(), assignment
+/// and destruction.
 ///
 /// An element does not know the tag under which it stands: whoever holds it passes the tag, so one
 /// type serves under several tags. No operation throws for bad input.

@@ -39,8 +39,8 @@ protected:
 };
 
 /// A known transmitter: `<Emitter version="1.0"><Name>...</Name><Position .../><TxParameter .../>
-/// </Emitter>`, all required. The position may come before the name, after which the name is refused.
-/// Another version than "1.0" is refused while reading.
+/// </Emitter>`, all required. A position before the name is read, but then the name is refused. Another version than
+/// "1.0" is refused while reading.
 class ARVXML_EXPORT XmlEmitterType : public XmlSite {
 public:
     XmlEmitterType();
@@ -55,8 +55,8 @@ private:
 };
 
 /// A direction finder: `<DF version="1.0"><Name>...</Name><Position .../><RxParameter .../>
-/// <DFprecision .../><StationInterlink .../></DF>`, the interlink optional. The position may come before
-/// the name, after which the name is refused. Another version than "1.0" is refused while reading.
+/// <DFprecision .../><StationInterlink .../></DF>`, the interlink optional. A position before the name is
+/// read, but then the name is refused. Another version than "1.0" is refused while reading.
 class ARVXML_EXPORT XmlDfType : public XmlSite {
 public:
     XmlDfType();

@@ -16,9 +16,8 @@ public:
     XmlOrderDef();
 
     /// A fresh envelope: "ARV" with the local date and time as id ("yyMMddhhmmsszzz", to the
-    /// millisecond), the name of
-    /// this host as sender. Two made within one millisecond have the same id. Without a host name
-    /// the sender stays empty and the envelope is not valid.
+    /// millisecond), the name of this host as sender. Two made within one millisecond have the same id.
+    /// Without a host name the sender stays empty and the envelope is not valid.
     static XmlOrderDef createValidInstance();
 
     const QString& orderId() const { return m_orderId; }

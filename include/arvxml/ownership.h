@@ -35,7 +35,14 @@ public:
             clear();
         return *this;
     }
-    OptionalChild& operator=(OptionalChild&&) noexcept = default;
+    OptionalChild& operator=(OptionalChild&& other)
+    {
+        if (isPresent() && other.isPresent())
+            *m_child = std::move(*other.m_child); // the object held stays, as in every assignment
+        else
+            m_child = std::move(other.m_child);
+        return *this;
+    }
 
     bool isPresent() const { return m_child != nullptr; }
 
@@ -55,10 +62,11 @@ public:
     /// The child held, made with its defaults when absent.
     T& obtain() { return isPresent() ? *m_child : renew(); }
 
-    /// A new child with its defaults in place of the one held, if any.
-    T& renew()
+    /// A new child made of \a arguments, none for its defaults, in place of the one held, if any.
+    template <typename... Arguments>
+    T& renew(Arguments&&... arguments)
     {
-        m_child = std::make_unique<T>();
+        m_child = std::make_unique<T>(std::forward<Arguments>(arguments)...);
         return *m_child;
     }
 

@@ -160,9 +160,9 @@ protected:
 /// A bandwidth in kHz: `<Bandwidth version="1.0" unit="kHz">25</Bandwidth>`. Default -1.0.
 ///
 /// Read as a decimal integer, but written with six significant digits: 25.5, or anything from a million
-/// on (1e+06), is valid and written, and refused when read. Valid
-/// from 0.0 on, with the unit "kHz". Its problems name another class: "XmlDfPrecisionType: Illegal
-/// precision." and "XmlDfPrecisionType: Illegal unit.".
+/// on (1e+06), is valid and written, and refused when read. Valid from 0.0 on, with the unit "kHz". Its
+/// problems name another class: "XmlDfPrecisionType: Illegal precision." and "XmlDfPrecisionType: Illegal
+/// unit.".
 class ARVXML_EXPORT XmlBandwidthType : public XmlReadUnitQuantity {
 public:
     XmlBandwidthType();

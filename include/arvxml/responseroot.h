@@ -18,7 +18,9 @@ namespace ArvXml {
 /// is not seen while reading, but judged. Setting one kind of content leaves the other. A new root is
 /// invalid until it has a type and the content of that type ("Type automatic but no content", "Type
 /// automatic but interactive content", and the like). A type beyond the known ones is not judged against
-/// the content.
+/// the content; an envelope must be valid in any case.
+///
+/// At most one answer is read; the envelope may be repeated, and the last one counts.
 class ARVXML_EXPORT XmlRespRoot : public XmlComposite {
 public:
     /// Texts "interactive" and "automatic", read exactly so.

@@ -10,7 +10,8 @@ namespace ArvXml {
 
 /// A sensor site of the deployment: `<Station><Name>...</Name><SignalPath .../><Position .../>
 /// <RxParameter .../><DFprecision .../><StationInterlink .../></Station>`, in this order; only name and
-/// position are required. It has no version: a "version" attribute is ignored.
+/// position are required. Reading reuses the optional children held. It has no version: a "version" attribute is
+/// ignored.
 class ARVXML_EXPORT XmlStationType : public XmlComposite {
 public:
     XmlStationType();
@@ -36,7 +37,7 @@ public:
     void setDfPrecision(const XmlDfPrecisionType& precision) { m_dfPrecision.set(precision); }
 
     bool hasInterlink() const { return m_interlink.isPresent(); }
-    /// The link to the network, null when absent. Reading reuses the one held.
+    /// The link to the network, null when absent.
     const XmlStationInterlinkType* interlink() const { return m_interlink.get(); }
     void setInterlink(const XmlStationInterlinkType& interlink) { m_interlink.set(interlink); }
 
@@ -53,8 +54,8 @@ private:
 };
 
 /// A receiving site: `<Receiver version="1.0"><Name>...</Name><Position .../><RxParameter .../>
-/// <StationInterlink .../></Receiver>`, the interlink optional. The position may come before the name,
-/// after which the name is refused. Another version than "1.0" is refused while reading.
+/// <StationInterlink .../></Receiver>`, the interlink optional. A position before the name is read,
+/// but then the name is refused. Another version than "1.0" is refused while reading.
 class ARVXML_EXPORT XmlReceiverType : public XmlSite {
 public:
     XmlReceiverType();

@@ -22,7 +22,7 @@ const ElementForm& XmlCmdCalc::form() const
                 {"DFcoverage", Order, Order | Reference, renewed<&Self::m_dfCov>()},
                 {"InterlinkPlanning", Order, Order | Reference, renewed<&Self::m_interlink>()},
                 {"BestSensorCov", Order, Order | Reference, keptByReset(renewed<&Self::m_bestSensor>())},
-                {"Reference", Reference, Reference, reportedApart(child<&Self::m_reference>()), Order},
+                {"Reference", Reference, Reference, referenceChild(), Order},
             })
             .completeWith(Order | Reference);
     return form;

@@ -11,8 +11,14 @@ enum CommandMarks : Marks { Object = 1, Reference = 2 };
 
 } // namespace
 
+quint32 XmlObjectCommand::openElement(ElementReader& in)
+{
+    reset();
+    return XmlChoiceCommand::openElement(in);
+}
+
 XmlCmdCreate::XmlCmdCreate()
-    : XmlChoiceCommand(QStringLiteral("XmlCmdCreate"))
+    : XmlObjectCommand(QStringLiteral("XmlCmdCreate"))
 {
 }
 
@@ -30,20 +36,14 @@ const ElementForm& XmlCmdCreate::form() const
                 {"Station", Object, Object | Reference, renewed<&Self::m_station>()},
                 {"Path", Object, Object | Reference, writtenAs("SignalPath", renewed<&Self::m_signalPath>())},
                 {"Device", Object, Object | Reference, renewed<&Self::m_device>()},
-                {"Reference", Reference, Reference, reportedApart(child<&Self::m_reference>())},
+                {"Reference", Reference, Reference, referenceChild()},
             })
             .completeWith(Object | Reference);
     return form;
 }
 
-quint32 XmlCmdCreate::openElement(ElementReader& in)
-{
-    reset();
-    return XmlChoiceCommand::openElement(in);
-}
-
 XmlCmdDelete::XmlCmdDelete()
-    : XmlChoiceCommand(QStringLiteral("XmlCmdDelete"))
+    : XmlObjectCommand(QStringLiteral("XmlCmdDelete"))
 {
 }
 
@@ -61,16 +61,10 @@ const ElementForm& XmlCmdDelete::form() const
                 {"Device", Object, Object | Reference, renewed<&Self::m_device>()},
                 {"SignalPath", Object, Object | Reference, renewed<&Self::m_signalPath>()},
                 {"Station", Object, Object | Reference, renewed<&Self::m_station>()},
-                {"Reference", Reference, Reference, reportedApart(child<&Self::m_reference>())},
+                {"Reference", Reference, Reference, referenceChild()},
             })
             .completeWith(Object | Reference);
     return form;
-}
-
-quint32 XmlCmdDelete::openElement(ElementReader& in)
-{
-    reset();
-    return XmlChoiceCommand::openElement(in);
 }
 
 } // namespace ArvXml

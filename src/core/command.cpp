@@ -10,10 +10,14 @@ void XmlCommand::reset()
     XmlComposite::reset(); // the reference stands in the form of every command
 }
 
+Content XmlChoiceCommand::referenceChild()
+{
+    return uncounted(reportedApart(child<&XmlChoiceCommand::m_reference>()));
+}
+
 bool XmlChoiceCommand::holdsExactlyOne() const
 {
-    constexpr int reference = 1; // it is counted with the others
-    return heldChildren() - reference == 1;
+    return heldChildren() == 1;
 }
 
 bool XmlChoiceCommand::isValid() const
@@ -23,7 +27,7 @@ bool XmlChoiceCommand::isValid() const
 
 void XmlChoiceCommand::addErrors()
 {
-    addSyntaxError(memberError(m_reference)); // reported first, though written last
+    addSyntaxError(memberError(m_reference));
     addChildrenErrors();
     if (!holdsExactlyOne())
         addSyntaxError(QStringLiteral("Too many or too few elements."));

@@ -297,11 +297,10 @@ inline Content unjudged(Content content)
     return content;
 }
 
-/// The same, but what is written under the tag is another member.
-template <auto Member>
-Content writtenFrom(Content content)
+/// The same, but not counted among the children.
+inline Content uncounted(Content content)
 {
-    content.write = heldIn<Member>().write;
+    content.count = Content().count;
     return content;
 }
 

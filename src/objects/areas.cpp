@@ -4,6 +4,18 @@
 
 namespace ArvXml {
 
+namespace {
+
+/// Reads one of two areas, and removes the other.
+template <auto Area, auto Other>
+void readInPlaceOf(XmlElementBase& owner, ElementReader& in, const QString& tag)
+{
+    memberOf<Other>(owner).clear();
+    memberOf<Area>(owner).obtain().processXml(in.stream(), tag);
+}
+
+} // namespace
+
 // What both have
 
 void XmlPlanArea::setAreaRect(const XmlAreaRectType& rectangle)
@@ -21,11 +33,7 @@ void XmlPlanArea::setAreaPoly(const XmlAreaPolyType& polygon)
 Content XmlPlanArea::areaRectChild()
 {
     Content content = heldIn<&XmlPlanArea::m_areaRect>();
-    content.read = [](XmlElementBase& owner, ElementReader& in, const QString& tag) {
-        auto& self = static_cast<XmlPlanArea&>(owner);
-        self.m_areaPoly.clear();
-        self.m_areaRect.obtain().processXml(in.stream(), tag);
-    };
+    content.read = &readInPlaceOf<&XmlPlanArea::m_areaRect, &XmlPlanArea::m_areaPoly>;
     content.isValid = [](const XmlElementBase& owner) {
         const auto& self = static_cast<const XmlPlanArea&>(owner);
         return self.hasAreaRect() != self.hasAreaPoly() && isMemberValid(self.m_areaRect)
@@ -43,11 +51,7 @@ Content XmlPlanArea::areaRectChild()
 Content XmlPlanArea::areaPolyChild()
 {
     Content content = unjudged(reportedApart(heldIn<&XmlPlanArea::m_areaPoly>()));
-    content.read = [](XmlElementBase& owner, ElementReader& in, const QString& tag) {
-        auto& self = static_cast<XmlPlanArea&>(owner);
-        self.m_areaRect.clear();
-        self.m_areaPoly.obtain().processXml(in.stream(), tag);
-    };
+    content.read = &readInPlaceOf<&XmlPlanArea::m_areaPoly, &XmlPlanArea::m_areaRect>;
     return content;
 }
 
@@ -103,11 +107,6 @@ const ElementForm& XmlAoiType::form() const
             .completeWith(Name | Area | TxParameter)
             .refusesOtherVersions();
     return form;
-}
-
-void XmlAoiType::setRxThres(const XmlFieldstrengthType& threshold)
-{
-    m_rxThreshold.set(threshold);
 }
 
 void XmlAoiType::reset()

@@ -91,14 +91,14 @@ XmlMapType::XmlMapType()
 
 const ElementForm& XmlMapType::form() const
 {
-    static const ElementForm form =
-        ElementForm(listWording)
-            .sequence({
-                // The key is not judged, and the value is written in its place.
-                required("Key", writtenFrom<&XmlMapType::m_value>(unjudged(reused<&XmlMapType::m_key>()))),
-                required("Value", reused<&XmlMapType::m_value>()),
-            })
+    static const ElementForm form = [] {
+        Content key = unjudged(reused<&XmlMapType::m_key>());
+        const Content value = reused<&XmlMapType::m_value>();
+        key.write = value.write; // the value is written in the place of the key, too
+        return ElementForm(listWording)
+            .sequence({required("Key", key), required("Value", value)})
             .refusesOtherVersions();
+    }();
     return form;
 }
 
