@@ -3,17 +3,19 @@
 #include "arvxml/admincommand.h"
 #include "arvxml/calccommand.h"
 #include "arvxml/createdelete.h"
+#include "arvxml/propmodel.h"
 
 namespace ArvXml {
 
 /// The document element of a command document: an optional envelope, then the commands, each kind in
 /// a block of its own: `<Commands><ORDER_DEF>...</ORDER_DEF><Administrative>...</Administrative>
-/// <Create>...</Create><Delete>...</Delete><Calculate>...</Calculate></Commands>`. The caller chooses its tag.
+/// <Create>...</Create><Delete>...</Delete><PropagationModel>...</PropagationModel>
+/// <Calculate>...</Calculate></Commands>`. The caller chooses its tag.
 ///
 /// A root is filled by reading or copying only: a program that writes commands writes the document
 /// element itself, with the envelope and the commands as children. Each command read gets a copy of
-/// the envelope. Reading does not reset the root: commands are appended, the envelope is replaced. An
-/// empty root is valid.
+/// the envelope. Reading does not reset the root: commands are appended, the envelope and the model are
+/// replaced. An empty root is valid.
 class ARVXML_EXPORT XmlCmdRoot : public XmlComposite {
 public:
     XmlCmdRoot();
@@ -31,6 +33,9 @@ public:
     const QList<XmlCmdDelete*> getDeleteCmds() const { return m_deletes.items(); }
     const QList<XmlCmdCalc*> getCalculationCmds() const { return m_calculations.items(); }
 
+    /// The propagation model command, null when absent; one read replaces the one held.
+    const XmlPropModelType* getPropagationModelCmd() const { return m_propModel.get(); }
+
 protected:
     const ElementForm& form() const override;
 
@@ -38,12 +43,14 @@ private:
     /// Commands of one kind, each handed a copy of the envelope.
     template <auto Member>
     static Content commands();
+    static Content propModelCommand();
     void handEnvelope(XmlCommand& command) const;
 
     OptionalChild<XmlOrderDef> m_orderDef;
     OwnedList<XmlCmdAdmin> m_administrative;
     OwnedList<XmlCmdCreate> m_creates;
     OwnedList<XmlCmdDelete> m_deletes;
+    OptionalChild<XmlPropModelType> m_propModel;
     OwnedList<XmlCmdCalc> m_calculations;
 };
 

@@ -35,7 +35,7 @@ public:
             clear();
         return *this;
     }
-    OptionalChild& operator=(OptionalChild&& other)
+    OptionalChild& operator=(OptionalChild&& other) noexcept
     {
         if (isPresent() && other.isPresent())
             *m_child = std::move(*other.m_child); // the object held stays, as in every assignment

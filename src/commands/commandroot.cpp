@@ -27,19 +27,34 @@ Content XmlCmdRoot::commands()
     return content;
 }
 
+Content XmlCmdRoot::propModelCommand()
+{
+    Content content = heldIn<&XmlCmdRoot::m_propModel>();
+    content.read = [](XmlElementBase& owner, ElementReader& in, const QString& tag) {
+        auto& root = static_cast<XmlCmdRoot&>(owner);
+        constexpr bool isCommand = true;
+        XmlCommand& command = root.m_propModel.renew(isCommand);
+        command.processXml(in.stream(), tag);
+        root.handEnvelope(command);
+    };
+    return content;
+}
+
 const ElementForm& XmlCmdRoot::form() const
 {
     using Self = XmlCmdRoot;
-    enum : Marks { Envelope = 1, Administrative = 2, Create = 4, Delete = 8, Calculate = 16 };
+    enum : Marks { Envelope = 1, Administrative = 2, Create = 4, Delete = 8, Model = 16, Calculate = 32 };
     static const ElementForm form =
         ElementForm(compositeWording)
             .children({
-                {"ORDER_DEF", Envelope, Envelope | Administrative | Create | Delete | Calculate,
+                {"ORDER_DEF", Envelope, Envelope | Administrative | Create | Delete | Model | Calculate,
                  renewed<&Self::m_orderDef>()},
-                {"Administrative", Administrative, Create | Delete | Calculate, commands<&Self::m_administrative>()},
-                {"Create", Create, Delete | Calculate, commands<&Self::m_creates>()},
+                {"Administrative", Administrative, Create | Delete | Model | Calculate,
+                 commands<&Self::m_administrative>()},
+                {"Create", Create, Delete | Model | Calculate, commands<&Self::m_creates>()},
                 // Delete commands are neither judged nor reported here.
-                {"Delete", Delete, Calculate, unjudged(reportedApart(commands<&Self::m_deletes>()))},
+                {"Delete", Delete, Model | Calculate, unjudged(reportedApart(commands<&Self::m_deletes>()))},
+                {"PropagationModel", Model, Model | Calculate, propModelCommand()},
                 {"Calculate", Calculate, 0, commands<&Self::m_calculations>()},
             })
             .completeWith(0);

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "arvxml/parameterset.h"
+
+namespace ArvXml {
+
+/// The parameter of free space, optional:
+/// `<PropertiesFreespace><K-factor>1.3333</K-factor></PropertiesFreespace>`.
+///
+/// The K-factor may be repeated, and the last one counts. Reading does not reset the set: what the document
+/// does not mention stays.
+class ARVXML_EXPORT XmlPropModelFSType : public XmlParameterSet {
+public:
+    XmlPropModelFSType();
+
+    /// The effective earth radius factor, tag "K-factor": 0.1 to 5.0, default 1.3333.
+    double Kfactor() const { return realValue(KFactorRow); }
+    void setKfactor(double value) { setValue(KFactorRow, value); }
+    bool hasKfactor() const { return isPresent(KFactorRow); }
+
+protected:
+    const ParameterTable& table() const override;
+
+private:
+    enum Row { KFactorRow };
+};
+
+} // namespace ArvXml

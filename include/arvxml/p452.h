@@ -1,0 +1,84 @@
+#pragma once
+
+#include "arvxml/parameterset.h"
+
+namespace ArvXml {
+
+/// The parameters of the ITU-R P.452 interference model, all optional:
+/// `<PropertiesP452><DeltaN>45.6</DeltaN><SurfaceRefract>329</SurfaceRefract>...</PropertiesP452>`.
+///
+/// Each parameter comes at most once, in the order of the accessors below. Reading resets the set first.
+/// Messages call the class "XmlPropModelP542Type".
+class ARVXML_EXPORT XmlPropModelP452Type : public XmlParameterSet {
+public:
+    XmlPropModelP452Type();
+
+    /// The lapse of the refractive index, tag "DeltaN": 0.0 to 600.0, default 45.59.
+    double deltaN() const { return realValue(DeltaNRow); }
+    void setDeltaN(double value) { setValue(DeltaNRow, value); }
+    bool hasDeltaN() const { return isPresent(DeltaNRow); }
+
+    /// The refractivity at the surface, tag "SurfaceRefract": 250 to 400, default 329.
+    int surfaceRefract() const { return integerValue(SurfaceRefractRow); }
+    void setSurfaceRefract(int value) { setValue(SurfaceRefractRow, value); }
+    bool hasSurfaceRefract() const { return isPresent(SurfaceRefractRow); }
+
+    /// The percentage of time, tag "TimePct": 0.01 to 50.0, default 50.0.
+    double timePct() const { return realValue(TimePctRow); }
+    void setTimePct(double value) { setValue(TimePctRow, value); }
+    bool hasTimePct() const { return isPresent(TimePctRow); }
+
+    /// The air pressure, tag "Pressure_hPa": 800 to 1100 hPa, default 1013.
+    int pressure_hPa() const { return integerValue(PressureRow); }
+    void setPressure_hPa(int value) { setValue(PressureRow, value); }
+    bool hasPressure_hPa() const { return isPresent(PressureRow); }
+
+    /// The temperature, tag "Temp_C": -60 to 50 degrees Celsius, default 15.
+    int temp_C() const { return integerValue(TempRow); }
+    void setTemp_C(int value) { setValue(TempRow, value); }
+    bool hasTemp_C() const { return isPresent(TempRow); }
+
+    /// The length of the path over water, tag "OverWater_km": 0.0 to 40000.0 km, default 0.0.
+    double overWater_km() const { return realValue(OverWaterRow); }
+    void setOverWater_km(double value) { setValue(OverWaterRow, value); }
+    bool hasOverWater_km() const { return isPresent(OverWaterRow); }
+
+    /// The length of the path over coastal land, tag "InlandCoastal_km": 0.0 to 40000.0 km, default 0.0.
+    double inlandCoastal_km() const { return realValue(InlandCoastalRow); }
+    void setInlandCoastal_km(double value) { setValue(InlandCoastalRow, value); }
+    bool hasInlandCoastal_km() const { return isPresent(InlandCoastalRow); }
+
+    /// The length of the path over inland, tag "Inland_km": 0.0 to 40000.0 km, default 0.0.
+    double inland_km() const { return realValue(InlandRow); }
+    void setInland_km(double value) { setValue(InlandRow, value); }
+    bool hasInland_km() const { return isPresent(InlandRow); }
+
+    /// The distance of the transmitter from the coast, tag "DistTxCoast_km": 0.0 to 40000.0 km, default 500.0.
+    double distTxCoast_km() const { return realValue(DistTxCoastRow); }
+    void setDistTxCoast_km(double value) { setValue(DistTxCoastRow, value); }
+    bool hasDistTxCoast_km() const { return isPresent(DistTxCoastRow); }
+
+    /// The distance of the receiver from the coast, tag "DistRxCoast_km": 0.0 to 40000.0 km, default 500.0.
+    double distRxCoast_km() const { return realValue(DistRxCoastRow); }
+    void setDistRxCoast_km(double value) { setValue(DistRxCoastRow, value); }
+    bool hasDistRxCoast_km() const { return isPresent(DistRxCoastRow); }
+
+protected:
+    const ParameterTable& table() const override;
+
+private:
+    enum Row {
+        DeltaNRow,
+        SurfaceRefractRow,
+        TimePctRow,
+        PressureRow,
+        TempRow,
+        OverWaterRow,
+        InlandCoastalRow,
+        InlandRow,
+        DistTxCoastRow,
+        DistRxCoastRow
+    };
+};
+
+} // namespace ArvXml

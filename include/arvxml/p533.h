@@ -1,0 +1,33 @@
+#pragma once
+
+#include "arvxml/parameterset.h"
+
+namespace ArvXml {
+
+/// The parameters of the ITU-R P.533 HF model, all optional: `<PropertiesP533><K-factor>1.000</K-factor>
+/// <SmoothedSunSpotNumber>5.0</SmoothedSunSpotNumber></PropertiesP533>`.
+///
+/// Each parameter comes at most once, in this order. Reading resets the set first. Messages call the class
+/// "XmlPropModelP526Type".
+class ARVXML_EXPORT XmlPropModelP533Type : public XmlParameterSet {
+public:
+    XmlPropModelP533Type();
+
+    /// The effective earth radius factor, tag "K-factor": 0.1 to 5.0, default 1.0.
+    double kFactor() const { return realValue(KFactorRow); }
+    void setKfactor(double value) { setValue(KFactorRow, value); }
+    bool hasKFactor() const { return isPresent(KFactorRow); }
+
+    /// The smoothed sunspot number, tag "SmoothedSunSpotNumber": 0.0 to 999.9, default 5.0.
+    double sunSpots() const { return realValue(SunSpotsRow); }
+    void setSunSpots(double value) { setValue(SunSpotsRow, value); }
+    bool hasSunSpots() const { return isPresent(SunSpotsRow); }
+
+protected:
+    const ParameterTable& table() const override;
+
+private:
+    enum Row { KFactorRow, SunSpotsRow };
+};
+
+} // namespace ArvXml

@@ -1,0 +1,126 @@
+#pragma once
+
+#include "arvxml/command.h"
+#include "arvxml/element.h"
+#include "arvxml/freespace.h"
+#include "arvxml/itm.h"
+#include "arvxml/okumurahata.h"
+#include "arvxml/olos.h"
+#include "arvxml/p1546.h"
+#include "arvxml/p452.h"
+#include "arvxml/p526.h"
+#include "arvxml/p533.h"
+
+namespace ArvXml {
+
+/// The choice of a propagation model: `<SelectModel>P.1546</SelectModel>`.
+///
+/// Texts "Free-space", "OLOS", "ITM", "P.452", "P.1546", "P.526", "P.533", "Okumura-Hata"; another text is
+/// the reader error "Illegal enum value.". Undefined is reported as "No model selected.".
+class ARVXML_EXPORT XmlPropModelEnumType : public XmlEnumeration {
+public:
+    enum Model : int {
+        ModelUndefined = 0,
+        ModelFreespace = 1,
+        ModelOLOS = 2,
+        ModelITM = 3,
+        ModelP452 = 4,
+        ModelP1546 = 5,
+        ModelP526 = 6,
+        ModelP533 = 7,
+        ModelOkumuraHata = 8,
+    };
+
+    XmlPropModelEnumType();
+    Model model() { return static_cast<Model>(m_value); }
+    Model model() const { return static_cast<Model>(m_value); }
+    void setModel(Model model) { m_value = model; }
+
+    void processXml(QXmlStreamReader& reader, const QString& tagName) override;
+
+protected:
+    const EnumerationRules& rules() const override;
+};
+
+/// The command to choose a propagation model and set its parameters:
+/// `<PropagationModel><SelectModel>ITM</SelectModel><PropertiesITM>...</PropertiesITM>
+/// <Reference>42</Reference></PropagationModel>`.
+///
+/// The selection comes first, then at most one parameter set ("Illegal number of elements."); both may be
+/// missing, and nothing ties the set to the selection. The reference is there, and required, only for an
+/// object that is a command. Reading does not reset the element first; a child read replaces the one held.
+class ARVXML_EXPORT XmlPropModelType : public XmlCommand {
+public:
+    /// \a isCommand tells whether the element is a command, with a reference; it stays so for good.
+    explicit XmlPropModelType(bool isCommand);
+    bool isCommand() const { return m_isCommand; }
+
+    bool hasModel() const { return m_model.isPresent(); }
+    /// The selection, tag "SelectModel"; null when absent.
+    const XmlPropModelEnumType* model() const { return m_model.get(); }
+    void setModel(const XmlPropModelEnumType& model) { m_model.set(model); }
+
+    bool hasFreespace() const { return m_freespace.isPresent(); }
+    /// Free space, tag "PropertiesFreespace"; null when absent.
+    const XmlPropModelFSType* freespace() const { return m_freespace.get(); }
+    void setFreespace(const XmlPropModelFSType& parameters) { m_freespace.set(parameters); }
+
+    bool hasOLOS() const { return m_olos.isPresent(); }
+    /// Optical line of sight, tag "PropertiesOLOS"; null when absent.
+    const XmlPropModelOLOSType* OLOS() const { return m_olos.get(); }
+    void setOLOS(const XmlPropModelOLOSType& parameters) { m_olos.set(parameters); }
+
+    bool hasITM() const { return m_itm.isPresent(); }
+    /// Irregular Terrain Model, tag "PropertiesITM"; null when absent.
+    const XmlPropModelITMType* ITM() const { return m_itm.get(); }
+    void setITM(const XmlPropModelITMType& parameters) { m_itm.set(parameters); }
+
+    bool hasP452() const { return m_p452.isPresent(); }
+    /// ITU-R P.452, tag "PropertiesP452"; null when absent.
+    const XmlPropModelP452Type* P452() const { return m_p452.get(); }
+    void setP452(const XmlPropModelP452Type& parameters) { m_p452.set(parameters); }
+
+    bool hasP1546() const { return m_p1546.isPresent(); }
+    /// ITU-R P.1546, tag "PropertiesP1546"; null when absent.
+    const XmlPropModelP1546Type* P1546() const { return m_p1546.get(); }
+    void setP1546(const XmlPropModelP1546Type& parameters) { m_p1546.set(parameters); }
+
+    bool hasP526() const { return m_p526.isPresent(); }
+    /// ITU-R P.526, tag "PropertiesP526"; null when absent.
+    const XmlPropModelP526Type* P526() const { return m_p526.get(); }
+    void setP526(const XmlPropModelP526Type& parameters) { m_p526.set(parameters); }
+
+    bool hasP533() const { return m_p533.isPresent(); }
+    /// ITU-R P.533, tag "PropertiesP533"; null when absent.
+    const XmlPropModelP533Type* P533() const { return m_p533.get(); }
+    void setP533(const XmlPropModelP533Type& parameters) { m_p533.set(parameters); }
+
+    bool hasHata() const { return m_hata.isPresent(); }
+    /// Okumura-Hata, tag "PropertiesOkumura"; null when absent.
+    const XmlPropModelHataType* Hata() const { return m_hata.get(); }
+    void setHata(const XmlPropModelHataType& parameters) { m_hata.set(parameters); }
+
+    bool isValid() const override;
+
+protected:
+    void addErrors() override;
+    const ElementForm& form() const override;
+    quint32 openElement(ElementReader& in) override;
+
+private:
+    static Content referenceOfCommand();
+    bool hasTooManySets() const;
+
+    OptionalChild<XmlPropModelEnumType> m_model;
+    OptionalChild<XmlPropModelFSType> m_freespace;
+    OptionalChild<XmlPropModelOLOSType> m_olos;
+    OptionalChild<XmlPropModelITMType> m_itm;
+    OptionalChild<XmlPropModelP452Type> m_p452;
+    OptionalChild<XmlPropModelP1546Type> m_p1546;
+    OptionalChild<XmlPropModelP526Type> m_p526;
+    OptionalChild<XmlPropModelP533Type> m_p533;
+    OptionalChild<XmlPropModelHataType> m_hata;
+    bool m_isCommand;
+};
+
+} // namespace ArvXml

@@ -1,0 +1,24 @@
+#include "arvxml/freespace.h"
+
+#include "propmodels/parametertable.h"
+
+namespace ArvXml {
+
+XmlPropModelFSType::XmlPropModelFSType()
+    : XmlParameterSet(QStringLiteral("XmlPropModelFSType"))
+{
+    resetParameters();
+}
+
+const ParameterTable& XmlPropModelFSType::table() const
+{
+    static const ParameterTable table =
+        ParameterTable({
+                           repeatable(real("K-factor", 1.3333, 4, 0.1, 5.0, "K-factor out of bounds",
+                                           "Illegal K-factor value (must be numeric)")),
+                       })
+            .keptBeforeReading();
+    return table;
+}
+
+} // namespace ArvXml

@@ -1,0 +1,23 @@
+#include "arvxml/p533.h"
+
+#include "propmodels/parametertable.h"
+
+namespace ArvXml {
+
+XmlPropModelP533Type::XmlPropModelP533Type()
+    : XmlParameterSet(QStringLiteral("XmlPropModelP526Type")) // not its own name
+{
+    resetParameters();
+}
+
+const ParameterTable& XmlPropModelP533Type::table() const
+{
+    static const ParameterTable table = {
+        real("K-factor", 1.0, 3, 0.1, 5.0, "K-factor out of bounds", "Illegal K-factor value (must be numeric)"),
+        real("SmoothedSunSpotNumber", 5.0, 1, 0.0, 999.9, "SmoothedSunSpotNumber out of bounds",
+             "Illegal SmoothedSunSpotNumber value (must be numeric)"),
+    };
+    return table;
+}
+
+} // namespace ArvXml

@@ -1,0 +1,157 @@
+#pragma once
+
+#include <QtCore/QString>
+
+#include <initializer_list>
+#include <limits>
+#include <utility>
+#include <vector>
+
+namespace ArvXml {
+
+/// One parameter of a set: a row of its table.
+struct ParameterRow {
+    enum Kind { Real, Integer, Choice };
+
+    Kind kind = Real;
+    QString tag;               ///< read under this tag
+    QString writtenTag;        ///< written under this one; null for the tag of the set itself
+    double byDefault = 0.0;    ///< the value of a new set
+    double afterBadText = 0.0; ///< the value after a text that cannot be read
+    int decimals = 0;          ///< how many are written
+    double min = -std::numeric_limits<double>::infinity();
+    double max = std::numeric_limits<double>::infinity();
+    QString rangeError;         ///< the problem of a value out of range; NaN is in every range
+    QString readError;          ///< raised for a text that cannot be read
+    std::vector<QString> texts; ///< of a choice, by value
+    bool readsUndefined = true; ///< whether the text of value 0 is accepted
+    bool isRepeatable = false;  ///< whether it may come again while none after it has been read
+    int clearedByBadText = -1;  ///< the parameter whose flag a bad text clears; -1 for its own
+    int textChosenBy = -1;      ///< the parameter whose value chooses the text written; -1 for its own
+};
+
+/// The texts of a choice.
+inline std::vector<QString> texts(std::initializer_list<const char*> list)
+{
+    std::vector<QString> result;
+    for (const char* text : list)
+        result.push_back(QString::fromLatin1(text));
+    return result;
+}
+
+/// A real number, written with so many decimals.
+inline ParameterRow real(const char* tag, double byDefault, int decimals, double min, double max,
+                         const char* rangeError, const char* readError)
+{
+    ParameterRow row;
+    row.tag = row.writtenTag = QString::fromLatin1(tag);
+    row.byDefault = row.afterBadText = byDefault;
+    row.decimals = decimals;
+    row.min = min;
+    row.max = max;
+    row.rangeError = QString::fromLatin1(rangeError);
+    row.readError = QString::fromLatin1(readError);
+    return row;
+}
+
+/// A decimal integer.
+inline ParameterRow integer(const char* tag, int byDefault, int min, int max, const char* rangeError,
+                            const char* readError)
+{
+    ParameterRow row = real(tag, byDefault, 0, min, max, rangeError, readError);
+    row.kind = ParameterRow::Integer;
+    return row;
+}
+
+/// A choice out of \a texts, that of value 0 first.
+inline ParameterRow choice(const char* tag, int byDefault, std::vector<QString> texts, const char* readError)
+{
+    ParameterRow row;
+    row.kind = ParameterRow::Choice;
+    row.tag = row.writtenTag = QString::fromLatin1(tag);
+    row.byDefault = row.afterBadText = byDefault;
+    row.readError = QString::fromLatin1(readError);
+    row.texts = std::move(texts);
+    return row;
+}
+
+/// A choice whose value 0 means undefined: its text "UNDEFINED" is not read, and \a undefinedError is the
+/// problem of the value.
+inline ParameterRow definedChoice(const char* tag, std::vector<QString> texts, const char* undefinedError,
+                                  const char* readError)
+{
+    texts.insert(texts.begin(), QStringLiteral("UNDEFINED"));
+    ParameterRow row = choice(tag, 0, std::move(texts), readError);
+    row.readsUndefined = false;
+    row.rangeError = QString::fromLatin1(undefinedError);
+    return row;
+}
+
+// Departures, each said by its name.
+
+inline ParameterRow writtenAs(const char* tag, ParameterRow row)
+{
+    row.writtenTag = QString::fromLatin1(tag);
+    return row;
+}
+inline ParameterRow writtenAsTheSet(ParameterRow row)
+{
+    row.writtenTag = QString();
+    return row;
+}
+inline ParameterRow afterBadText(double value, ParameterRow row)
+{
+    row.afterBadText = value;
+    return row;
+}
+inline ParameterRow badTextClears(int parameter, ParameterRow row)
+{
+    row.clearedByBadText = parameter;
+    return row;
+}
+inline ParameterRow textChosenBy(int parameter, ParameterRow row)
+{
+    row.textChosenBy = parameter;
+    return row;
+}
+inline ParameterRow repeatable(ParameterRow row)
+{
+    row.isRepeatable = true;
+    return row;
+}
+
+/// The parameters of a set, in the order of reading and writing.
+class ParameterTable {
+public:
+    ParameterTable(std::initializer_list<ParameterRow> rows)
+        : m_rows(rows)
+    {
+        for (int parameter = 0; parameter < size(); ++parameter)
+            m_reportOrder.push_back(parameter);
+    }
+
+    /// The set keeps what it holds when it is read; the usual set is reset first.
+    ParameterTable& keptBeforeReading()
+    {
+        m_isResetBeforeReading = false;
+        return *this;
+    }
+    /// Problems are reported in another order than that of the table.
+    ParameterTable& reportedInOrder(std::vector<int> order)
+    {
+        m_reportOrder = std::move(order);
+        return *this;
+    }
+
+    int size() const { return static_cast<int>(m_rows.size()); }
+    const ParameterRow& row(int parameter) const { return m_rows[static_cast<std::size_t>(parameter)]; }
+    bool isResetBeforeReading() const { return m_isResetBeforeReading; }
+    const std::vector<int>& reportOrder() const { return m_reportOrder; }
+
+private:
+    std::vector<ParameterRow> m_rows;
+    std::vector<int> m_reportOrder;
+    bool m_isResetBeforeReading = true;
+};
+
+} // namespace ArvXml
