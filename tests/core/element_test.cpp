@@ -1081,7 +1081,7 @@ private Q_SLOTS:
 
     void movingAnOptionalChild()
     {
-        static_assert(std::is_nothrow_move_constructible_v<Child>);
+        static_assert(std::is_nothrow_move_constructible_v<Child> && std::is_nothrow_move_assignable_v<Child>);
         Child first;
         first.set(Held(2));
         const Held* const held = first.get();

@@ -67,7 +67,7 @@ const QVector<Child>& deviceChildren()
          QStringLiteral("<DeviceCategory>Cable</DeviceCategory>"),
          QStringLiteral("<DeviceCategory>UNDEFINED</DeviceCategory>")},
         {QStringLiteral("Name"), words("Name Frequencies Noises KFactors Attenuations Gains Degrees DBM"),
-         QStringLiteral("<Name>Part 7</Name>"), QStringLiteral("<Name>Part 7</Name>"), QStringLiteral("<Name></Name>")},
+         QStringLiteral("<Name>Filter 7</Name>"), QStringLiteral("<Name>Filter 7</Name>"), QStringLiteral("<Name></Name>")},
         {QStringLiteral("Frequencies"), words("Frequencies Noises KFactors Attenuations Gains Degrees DBM"),
          QStringLiteral("<Frequencies><Frequency unit=\"MHz\">100</Frequency></Frequencies>"),
          QStringLiteral("<Frequencies version=\"1.0\"><Frequency version=\"1.0\" unit=\"MHz\">100.000000</Frequency>"
@@ -309,7 +309,7 @@ XmlDeviceType deviceWith(int set, double factor = 1.0)
 {
     XmlDeviceType device;
     device.setCategory(category(XmlDeviceCategoryType::Cable));
-    device.setObjName(name(QStringLiteral("Part 7")));
+    device.setObjName(name(QStringLiteral("Filter 7")));
     device.setFrequencyList(frequencies(100.0 * factor));
     for (int i = 0; i < lists().size(); ++i) {
         if (set & (1 << i))
@@ -1337,7 +1337,7 @@ private Q_SLOTS:
         auto device =
             readFrom<XmlDeviceType>(deviceXml(words("DeviceCategory Name Frequencies Noises Gains DBM KFactors")));
         QCOMPARE(device.category()->category(), XmlDeviceCategoryType::Cable);
-        QCOMPARE(device.objName()->objName(), QStringLiteral("Part 7"));
+        QCOMPARE(device.objName()->objName(), QStringLiteral("Filter 7"));
         QCOMPARE(device.frequencyList()->freqList().size(), 1);
         QCOMPARE(device.frequencyList()->freqList().first()->frequency_MHz(), 100.0);
         QVERIFY(device.hasNoise() && device.hasKfactor() && device.hasGain() && device.hasDBM());
@@ -1405,7 +1405,7 @@ private Q_SLOTS:
                                           "<DBM><dBm>10</dBm></DBM><KFactors><Decibel>11</Decibel></KFactors></D>")),
                  QString());
         QCOMPARE(device.category()->category(), XmlDeviceCategoryType::Cable);
-        QCOMPARE(device.objName()->objName(), QStringLiteral("Part 7"));
+        QCOMPARE(device.objName()->objName(), QStringLiteral("Filter 7"));
         QCOMPARE(device.frequencyList()->freqList().size(), 1);
         QCOMPARE(device.frequencyList()->freqList().first()->frequency_MHz(), 7.0);
         const QVector<double> values = {8.0, 11.0, 9.0, 9.0, 15.0, 10.0};
