@@ -153,8 +153,10 @@ int main(int argc, char* argv[])
     parser.addHelpOption();
     const QCommandLineOption rewriteOption(
         QStringLiteral("rewrite"),
-        QStringLiteral("Write each document that could be read to the standard output, and the report elsewhere. Some "
-                       "elements are written otherwise than they are read: not every document can be read again."));
+        QStringLiteral(
+            "Write each document that could be read to the standard output, and the report elsewhere. Some "
+            "elements are written otherwise than they are read, and one under tags that are no XML: not every "
+            "document can be read again."));
     const QCommandLineOption indentOption(QStringLiteral("indent"), QStringLiteral("Indent what is rewritten."));
     parser.addOptions({rewriteOption, indentOption});
     parser.addPositionalArgument(QStringLiteral("files"), QStringLiteral("The files."), QStringLiteral("files..."));

@@ -14,8 +14,8 @@ namespace {
 /// \a document with \a envelope in the place of its own.
 ///
 /// The commands are copied token by token. The elements that have read them are not asked to write them:
-/// a signal path to create, a station's interlink, and devices with four lists are written in a way that
-/// the service's reader refuses.
+/// a signal path to create, a station's interlink, devices with four lists, and the parameters of some
+/// propagation models are written in a way that the service's reader refuses.
 QByteArray withEnvelope(const QByteArray& document, const XmlOrderDef& envelope)
 {
     QByteArray copy;
@@ -43,7 +43,7 @@ Order orderFrom(const QByteArray& document)
     XmlCmdRoot root;
     const Document::ReadError error = Document::read(document, root);
     order.commandCount = root.getAdministrativeCmds().size() + root.getCreateCmds().size() + root.getDeleteCmds().size()
-        + root.getCalculationCmds().size();
+        + (root.getPropagationModelCmd() ? 1 : 0) + root.getCalculationCmds().size();
     if (error) {
         order.problem = QStringLiteral("Line %1, column %2: %3").arg(error.line).arg(error.column).arg(error.text);
         return order;

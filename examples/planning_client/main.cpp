@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <iterator>
 
 namespace {
 
@@ -95,18 +96,20 @@ int main(int argc, char* argv[])
     QCoreApplication::setApplicationName(QStringLiteral("planning_client"));
 
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QStringLiteral("Sends an order to the planning service and tells what comes back.\n\n"
-                       "  interlink A B           plan the link between two objects\n"
-                       "  cep [DF...]             circular error probable of fixes by direction finders\n"
-                       "  detect [SENSOR...]      detection probability\n"
-                       "  dfcov [DF...]           direction-finding coverage\n"
-                       "  bestsensor [SENSOR...]  best sensor coverage\n"
-                       "  findsites [AREA...]     possible sites in deployment areas\n"
-                       "  version                 ask for the version of the service\n\n"
-                       "No names mean all. Instead of an order, --commands sends the commands of a file, for example\n"
-                       "those that create and delete the objects of a plan.\n\n"
-                       "Exit status: 0 carried out, 1 not acceptable, 2 no proper conversation."));
+    parser.setApplicationDescription(QStringLiteral(
+        "Sends an order to the planning service and tells what comes back.\n\n"
+        "  interlink A B                    plan the link between two objects\n"
+        "  cep [DF...]                      circular error probable of fixes by direction finders\n"
+        "  detect [SENSOR...]               detection probability\n"
+        "  dfcov [DF...]                    direction-finding coverage\n"
+        "  bestsensor [SENSOR...]           best sensor coverage\n"
+        "  findsites [AREA...]              possible sites in deployment areas\n"
+        "  model NAME [PARAMETER=VALUE...]  choose the propagation model and its parameters\n"
+        "  version                          ask for the version of the service\n\n"
+        "No names mean all. A wrong model or parameter is answered with those that there are. Instead\n"
+        "of an order, --commands sends the commands of a file, for example those that create and delete\n"
+        "the objects of a plan.\n\n"
+        "Exit status: 0 carried out, 1 not acceptable, 2 no proper conversation."));
     parser.addHelpOption();
     const QCommandLineOption portOption(QStringLiteral("port"), QStringLiteral("The service's <port>."),
                                         QStringLiteral("port"));
@@ -140,7 +143,7 @@ int main(int argc, char* argv[])
     parser.addOptions({portOption, referenceOption, areaOption, gridOption, probabilityOption, emittersOption,
                        commandsOption, rawOption, answersOption, timeoutOption});
     parser.addPositionalArgument(QStringLiteral("kind"), QStringLiteral("The kind of the order, see above."));
-    parser.addPositionalArgument(QStringLiteral("names"), QStringLiteral("Names of objects."),
+    parser.addPositionalArgument(QStringLiteral("names"), QStringLiteral("Names of objects, or a model."),
                                  QStringLiteral("[names...]"));
     parser.process(app);
 
@@ -159,10 +162,14 @@ int main(int argc, char* argv[])
     const bool isRaw = parser.isSet(rawOption);
     const bool isFile = isRaw || parser.isSet(commandsOption);
     const bool isClear = isFile == wish.kind.isEmpty() && !(isRaw && parser.isSet(commandsOption));
-    for (const bool ok : numbersOk) {
-        if (!ok || seconds <= 0 || !isClear)
-            return fail(parser.helpText());
-    }
+    if (!numbersOk[0] || port == 0)
+        return fail(QStringLiteral("The option --port needs the number of the service's port; see --help."));
+    if (!std::all_of(std::begin(numbersOk), std::end(numbersOk), [](bool ok) { return ok; }) || seconds <= 0)
+        return fail(QStringLiteral("An option that needs a number has another text; see --help."));
+    if (!isClear)
+        return fail(parser.helpText());
+    if (wish.kind == QLatin1String("version") && !wish.names.isEmpty())
+        return fail(QStringLiteral("A version query takes no names."));
 
     QFile file(parser.value(isRaw ? rawOption : commandsOption));
     if (isFile && !file.open(QIODevice::ReadOnly))

@@ -1,9 +1,13 @@
 #include "planning_client/orders.h"
 
+#include "common/document.h"
+#include "planning_client/models.h"
+
 #include <arvxml/arvxml.h>
 
 #include <QtCore/QXmlStreamWriter>
 
+#include <functional>
 #include <list>
 
 using namespace ArvXml;
@@ -132,13 +136,49 @@ bool fill(XmlCmdCalc& command, const Wish& wish)
     return true;
 }
 
+/// A command, judged and ready to be written.
+struct Command {
+    QString problem; ///< why it is not acceptable
+    std::function<void(QXmlStreamWriter&)> write;
+};
+
 /// The version query. Its kind cannot be set by code, so its tags are written here.
-void writeVersionQuery(QXmlStreamWriter& writer, const XmlReferenceType& reference)
+Command versionQuery(XmlReferenceType reference)
 {
-    writer.writeStartElement(QStringLiteral("Administrative"));
-    writer.writeEmptyElement(QStringLiteral("QueryVersion"));
-    reference.produceXml(writer, QStringLiteral("Reference"));
-    writer.writeEndElement();
+    const auto write = [reference](QXmlStreamWriter& writer) {
+        writer.writeStartElement(QStringLiteral("Administrative"));
+        writer.writeEmptyElement(QStringLiteral("QueryVersion"));
+        reference.produceXml(writer, QStringLiteral("Reference"));
+        writer.writeEndElement();
+    };
+    return {Document::problems(reference), write};
+}
+
+Command propagationModel(const Wish& wish, const XmlReferenceType& reference)
+{
+    const ModelChoice choice(wish.names, reference);
+    return {choice.problem(), [choice](QXmlStreamWriter& writer) { choice.write(writer); }};
+}
+
+Command calculation(const Wish& wish, const XmlReferenceType& reference)
+{
+    XmlCmdCalc command;
+    command.setCmdReference(reference);
+    if (!fill(command, wish))
+        return {QStringLiteral("There is no order of the kind \"%1\".").arg(wish.kind), {}};
+    return {Document::problems(command),
+            [command](QXmlStreamWriter& writer) { command.produceXml(writer, QStringLiteral("Calculate")); }};
+}
+
+Command commandFor(const Wish& wish)
+{
+    XmlReferenceType reference;
+    reference.setReference(wish.reference);
+    if (wish.kind == QLatin1String("version"))
+        return versionQuery(reference);
+    if (wish.kind == QLatin1String("model"))
+        return propagationModel(wish, reference);
+    return calculation(wish, reference);
 }
 
 } // namespace
@@ -148,20 +188,8 @@ Order makeOrder(const Wish& wish)
     Order order;
     XmlOrderDef envelope = XmlOrderDef::createValidInstance();
     order.id = envelope.orderId();
-    XmlReferenceType reference;
-    reference.setReference(wish.reference);
-    XmlCmdCalc command;
-    command.setCmdReference(reference);
-
-    const bool isQuery = wish.kind == QLatin1String("version");
-    if (!isQuery && !fill(command, wish))
-        order.problem = QStringLiteral("There is no order of the kind \"%1\".").arg(wish.kind);
-    else if (!envelope.isValid())
-        order.problem = envelope.syntaxError();
-    else if (isQuery && !reference.isValid())
-        order.problem = reference.syntaxError();
-    else if (!isQuery && !command.isValid())
-        order.problem = command.syntaxError();
+    const Command command = commandFor(wish);
+    order.problem = command.problem.isEmpty() ? Document::problems(envelope) : command.problem;
     if (!order.problem.isEmpty())
         return order;
 
@@ -170,10 +198,7 @@ Order makeOrder(const Wish& wish)
     writer.writeStartDocument();
     writer.writeStartElement(QStringLiteral("Commands"));
     envelope.produceXml(writer, QStringLiteral("ORDER_DEF"));
-    if (isQuery)
-        writeVersionQuery(writer, reference);
-    else
-        command.produceXml(writer, QStringLiteral("Calculate"));
+    command.write(writer);
     writer.writeEndElement();
     writer.writeEndDocument();
     return order;

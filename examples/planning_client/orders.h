@@ -6,8 +6,10 @@
 
 /// What the user wants to order.
 struct Wish {
-    QString kind;      ///< interlink, cep, detect, dfcov, bestsensor, findsites or version
-    QStringList names; ///< two objects to link, or sensors, or deployment areas; none for all
+    QString kind; ///< interlink, cep, detect, dfcov, bestsensor, findsites, model or version
+    /// Two objects to link, or sensors, or deployment areas; none for all. Of a propagation model: its name
+    /// and any PARAMETER=VALUE.
+    QStringList names;
     QStringList areas; ///< areas of interest; none for all
     QString reference;
     QString grid;               ///< spacing of the result grid, empty for the service's choice

@@ -137,6 +137,12 @@ void answer(const XmlCmdDelete& command, Plan& plan, Reply& reply)
     answerChange(command, plan.remove(command), QStringLiteral("deleted"), reply);
 }
 
+void answer(const XmlPropModelType& command, Plan& plan, Reply& reply)
+{
+    plan.choose(command);
+    answerChange(command, QString(), QStringLiteral("model ") + plan.modelName(), reply);
+}
+
 void answer(const XmlCmdCalc& command, Plan& plan, Reply& reply)
 {
     XmlAutoRespType estimate = acknowledgement(command.cmdReference());
@@ -153,12 +159,12 @@ void answer(const XmlCmdCalc& command, Plan& plan, Reply& reply)
 
     XmlAutoRespType result = acknowledgement(command.cmdReference());
     if (command.hasInterlink())
-        result.setInterlinkResult(planInterlink(*command.interlink()));
+        result.setInterlinkResult(planInterlink(*command.interlink(), plan.modelName()));
     else
         result.setGridResult(calculateGrid(command));
     reply.add(result, true);
-    reply.note(command.hasInterlink() ? QStringLiteral("interlink result") : QStringLiteral("grid result"),
-               command.cmdReference());
+    const QString kind = command.hasInterlink() ? QStringLiteral("interlink") : QStringLiteral("grid");
+    reply.note(QStringLiteral("%1 result with %2").arg(kind, plan.modelName()), command.cmdReference());
 }
 
 /// Calls \a use with every command of \a root, in the order of the document.
@@ -170,6 +176,8 @@ void forEachCommand(const XmlCmdRoot& root, const Use& use)
     for (const XmlCmdCreate* command : root.getCreateCmds())
         use(*command);
     for (const XmlCmdDelete* command : root.getDeleteCmds())
+        use(*command);
+    if (const XmlPropModelType* command = root.getPropagationModelCmd())
         use(*command);
     for (const XmlCmdCalc* command : root.getCalculationCmds())
         use(*command);

@@ -55,12 +55,12 @@ XmlStationType newStation(const XmlDeploymentAreaType& area)
 
 } // namespace
 
-XmlInterlinkResultType planInterlink(const XmlInterlinkPlanningType& order)
+XmlInterlinkResultType planInterlink(const XmlInterlinkPlanningType& order, const QString& model)
 {
     XmlInterlinkResultType result;
     result.setParameters(order);
-    result.setResultText(
-        QStringLiteral("The link from %1 to %2 is feasible.").arg(order.firstName(), order.secondName()));
+    result.setResultText(QStringLiteral("The link from %1 to %2 is feasible, calculated with %3.")
+                             .arg(order.firstName(), order.secondName(), model));
     result.setScreenshotFilename(nextScreenshot());
     return result;
 }

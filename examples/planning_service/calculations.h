@@ -8,7 +8,8 @@
 
 /// Calculations are only pretended: this is an example of the conversation, not of radio planning.
 
-ArvXml::XmlInterlinkResultType planInterlink(const ArvXml::XmlInterlinkPlanningType& order);
+/// The result names \a model, the propagation model.
+ArvXml::XmlInterlinkResultType planInterlink(const ArvXml::XmlInterlinkPlanningType& order, const QString& model);
 
 /// The result of any calculation but interlink planning.
 ArvXml::XmlGridResultType calculateGrid(const ArvXml::XmlCmdCalc& command);

@@ -74,6 +74,20 @@ QString Plan::remove(const XmlCmdDelete& command)
     return take(m_devices, *command.device());
 }
 
+void Plan::choose(const XmlPropModelType& command)
+{
+    // A command may bring parameters without a selection: the model stays then.
+    if (command.hasModel())
+        m_model = command.model()->model();
+}
+
+QString Plan::modelName() const
+{
+    static const char* const names[] = {"undefined", "Free-space", "OLOS",  "ITM",         "P.452",
+                                        "P.1546",    "P.526",      "P.533", "Okumura-Hata"};
+    return QLatin1String(names[m_model]);
+}
+
 const XmlStationType* Plan::firstStation() const
 {
     return firstOf(m_stations);

@@ -244,6 +244,16 @@ private Q_SLOTS:
     void thePlanIsBounded();
     void faultsOfManyBadCommandsStayShort();
 
+    void modelsAreSentAsTheServiceReadsThem_data();
+    void modelsAreSentAsTheServiceReadsThem();
+    void everyChoiceOfAModelCanBeSent_data();
+    void everyChoiceOfAModelCanBeSent();
+    void everyModelIsNamedInTheResult_data();
+    void everyModelIsNamedInTheResult();
+    void theModelChosenLastIsKept();
+    void aModelIsAnsweredOnce();
+    void aCompleteDocumentGoesThrough();
+
     void documentsMayComeInPiecesOrTogether();
     void rubbishDoesNotHarm();
     void aTooLongDocumentIsRefused();
@@ -266,9 +276,10 @@ void ConversationTest::orders_data()
     QTest::addColumn<QStringList>("texts");
     const auto words = [](const char* text) { return QString::fromLatin1(text).split(QLatin1Char('|')); };
     const QString stops = QStringLiteral("This is no failure.");
-    QTest::newRow("interlink") << words("interlink|Relay South|Relay North|--reference|link 1")
-                               << words("[reference link 1] Result expected at 20|[reference link 1] Result: interlink "
-                                        "from Relay South to Relay North|is feasible|picture: result-1.png");
+    QTest::newRow("interlink")
+        << words("interlink|Relay South|Relay North|--reference|link 1")
+        << words("[reference link 1] Result expected at 20|[reference link 1] Result: interlink "
+                 "from Relay South to Relay North|is feasible, calculated with Free-space.\n|picture: result-1.png");
     QTest::newRow("cep") << words("cep|DF 1|DF 2|--area|North|--area|South|--probability|90|--grid|100|--reference|c")
                          << words("Result expected at 20|[reference c] Grid result: circular error "
                                   "probable|direction finders: DF 1, DF 2\n|areas of interest: North, "
@@ -289,6 +300,9 @@ void ConversationTest::orders_data()
     QTest::newRow("possible sites")
         << words("findsites|Ridge|--random-emitters|12")
         << words("Grid result: possible sites|random emitters: 12\n|deployment areas: Ridge\n") + QStringList(stops);
+    QTest::newRow("model") << words("model|P.1546|TimePct=10|K-factor=1.333|--reference|m")
+                           << words("Sending order ARV|[reference m] Done at 20");
+    QTest::newRow("model without parameters") << words("model|OLOS") << words("[reference 1] Done at 20");
     QTest::newRow("version") << words("version|--reference|hello")
                              << words("[reference hello] Version of the service: Example planning service 1.0");
 }
@@ -325,6 +339,18 @@ void ConversationTest::rawDocuments_data()
     row("good/calculate-possible-sites.xml", 1, 0, "known emitters: Beacon 4");
     row("good/query-version.xml", 1, 0, "[reference hello] Version of the service");
     row("good/several-commands.xml", 3, 0, "[reference several-3] Grid result: circular error probable");
+    row("good/complete.xml", 17, 0, "[reference complete-17] Grid result: best sensor coverage");
+    row("good/model-free-space.xml", 1, 0, "[reference model-free-space] Done at 20");
+    row("good/model-itm.xml", 1, 0, "[reference model-itm] Done at 20");
+    row("good/model-okumura-hata.xml", 1, 0, "[reference model-okumura-hata] Done at 20");
+    row("good/model-olos.xml", 1, 0, "[reference model-olos] Done at 20");
+    row("good/model-olos-k-factor-twice.xml", 1, 0, "[reference model-1] Done at 20");
+    row("good/model-p1546.xml", 1, 0, "[reference model-p1546] Done at 20");
+    row("good/model-p452.xml", 1, 0, "[reference model-p452] Done at 20");
+    row("good/model-p526.xml", 1, 0, "[reference model-p526] Done at 20");
+    row("good/model-p533.xml", 1, 0, "[reference model-p533] Done at 20");
+    row("good/model-parameters-of-another.xml", 1, 0, "[reference model-1] Done at 20");
+    row("good/model-selection-only.xml", 1, 0, "[reference model-1] Done at 20");
     row("good/plan.xml", 35, 0, "[reference device-12] Done at 20");
     row("good/change-plan.xml", 4, 0, "[reference change-3] Done at 20");
     row("good/delete-all-of-each-kind.xml", 8, 0, "[reference all-8] Done at 20");
@@ -340,6 +366,14 @@ void ConversationTest::rawDocuments_data()
     row("bad/create-emitter-frequency-not-a-number.xml", 1, 1,
         "[reference 1] Fault:\n  Some value is not acceptable.\n");
     row("bad/delete-name-empty.xml", 1, 1, "Object name too short (min. 1).\n");
+    row("bad/model-okumura-hata-as-written.xml", 1, 1,
+        "[reference unknown] Fault:\n  in XmlPropModelHataType (line 10, column 25): Unexpected token "
+        "\"StartElement\": "
+        "PropertiesOkumura.\n");
+    row("bad/model-p452-pressure-too-low.xml", 1, 1,
+        "[reference model-1] Fault:\n  +++ in XmlCmdRoot Begin:\n  +++ in XmlPropModelType Begin:\n  +++ in "
+        "XmlPropModelP542Type Begin:\n  Pressure_hPa out of bounds\n");
+    row("bad/model-twice.xml", 1, 1, "[reference unknown] Fault:\n  in XmlCmdRoot (line 11, column 20): ");
     row("unreadable/not-xml.txt", 1, 1, "[reference unknown] Fault:\n  Start tag expected.\n");
     row("unreadable/empty.xml", 1, 1, "[reference unknown] Fault:\n  Premature end of document.\n");
 }
@@ -372,6 +406,33 @@ void ConversationTest::badOrdersAreNotSent_data()
     row("an unknown spacing", "detect|--grid|25", "Illegal grid size.\n");
     row("too many emitters", "findsites|--random-emitters|501", "RandomEmitters/Number out of bounds\n");
     row("no reference", "version|--reference|", "String too short (min. 1)\n");
+    row("no model", "model", "There is no model \"\". The models: Free-space, OLOS, ITM, P.452, ");
+    row("an unknown model", "model|p.1546",
+        "There is no model \"p.1546\". The models: Free-space, OLOS, ITM, P.452, P.1546, P.526, P.533, Okumura-Hata\n");
+    row("an unknown parameter of a model", "model|P.533|K-factor=1|Sunspots=5",
+        "P.533 has no parameter \"Sunspots\". Its parameters: K-factor, SmoothedSunSpotNumber\n");
+    row("a parameter of another model", "model|Free-space|MaxRange_km=5",
+        "Free-space has no parameter \"MaxRange_km\". Its parameters: K-factor\n");
+    row("a name that P.526 is written with", "model|P.526|Polarisation=Vertical",
+        "P.526 has no parameter \"Polarisation\". Its parameters: K-factor, Pol, Surface, AssumeSmoothEarth, "
+        "IncludeSubPathDiffractionLoss\n");
+    row("a parameter twice", "model|OLOS|K-factor=1|K-factor=2", "K-factor is given twice.\n");
+    row("a parameter without a value", "model|OLOS|K-factor", "K-factor cannot be \"\", only a number\n");
+    row("a word for a number", "model|P.1546|K-factor=4/3", "K-factor cannot be \"4/3\", only a number\n");
+    row("not a number, which is in no range", "model|ITM|RRI=nan", "RRI cannot be \"nan\", only a number\n");
+    row("infinity", "model|ITM|RRI=inf", "RRI cannot be \"inf\", only a number\n");
+    row("a fraction for a whole number", "model|P.452|SurfaceRefract=329.5",
+        "SurfaceRefract cannot be \"329.5\", only a whole number\n");
+    row("an unknown choice", "model|P.526|Pol=H", "Pol cannot be \"H\", only Horizontal | Vertical\n");
+    row("an undefined choice", "model|ITM|Pol=UNDEFINED", "Pol cannot be \"UNDEFINED\", only H | V\n");
+    row("a choice in lower case", "model|Okumura-Hata|AreaType=urban",
+        "AreaType cannot be \"urban\", only Urban | Suburban | Open rural\n");
+    row("a number too high", "model|P.1546|K-factor=5.0001",
+        "+++ in XmlPropModelP1546Type Begin:\nK-factor out of bounds\n");
+    row("a number too low, of a set that the library does not write", "model|P.526|K-factor=0.09|Pol=Vertical",
+        "+++ in XmlPropModelP526Type Begin:\nK-factor out of bounds\n");
+    row("a whole number too low", "model|P.452|Temp_C=-61", "Temp_C out of bounds\n");
+    row("a model without a reference", "model|P.452|--reference|", "String too short (min. 1)\n");
     row("an unknown kind", "forecast", "There is no order of the kind \"forecast\".");
 }
 
@@ -592,6 +653,10 @@ void ConversationTest::badCommandFilesAreNotSent_data()
     row("bad/create-receiver-height-in-feet.xml", 1, "Illegal unit (must be \"m\").\n");
     row("bad/create-emitter-frequency-not-a-number.xml", 1, "Some value is not acceptable.\n");
     row("bad/delete-name-empty.xml", 1, "Object name too short (min. 1).\n");
+    row("bad/model-p526-as-written.xml", 1,
+        "Line 11, column 20: in XmlPropModelP526Type (line 11, column 20): Unexpected token \"StartElement\": "
+        "Polarisation.\n");
+    row("bad/model-p533-sunspots-1000.xml", 1, "SmoothedSunSpotNumber out of bounds\n");
     row("good/response-fault.xml", 1, "Unexpected token \"StartElement\": Automatic.\n");
     row("unreadable/another-protocol.xml", 1, "in XmlCmdRoot ");
     row("unreadable/empty.xml", 1, "Premature end of document.\n");
@@ -788,6 +853,220 @@ void ConversationTest::faultsOfManyBadCommandsStayShort()
         QVERIFY(message.startsWith(QLatin1String("+++ in XmlCmdRoot Begin:\n")));
         QCOMPARE(message.size(), 4000);
     }
+}
+
+void ConversationTest::modelsAreSentAsTheServiceReadsThem_data()
+{
+    QTest::addColumn<QStringList>("words");
+    QTest::addColumn<QByteArray>("command");
+    const auto row = [](const char* words, const char* content) {
+        const QStringList list = QString::fromLatin1(words).split(QLatin1Char('|'));
+        QTest::newRow(words) << list
+                             << QByteArray("<PropagationModel><SelectModel>") + list.first().toLatin1()
+                + "</SelectModel>" + content + "<Reference>m</Reference></PropagationModel>";
+    };
+    row("Free-space", "");
+    row("Free-space|K-factor=1.3333", "<PropertiesFreespace><K-factor>1.3333</K-factor></PropertiesFreespace>");
+    row("OLOS|MaxRange_km=42.5|K-factor=1",
+        "<PropertiesOLOS><K-factor>1.0000</K-factor><MaxRange_km>42.500</MaxRange_km></PropertiesOLOS>");
+    row("ITM|Time=90|Conf=50|Climate=Desert|Pol=V|RRI=-300",
+        "<PropertiesITM><RRI>-300.0000</RRI><Pol>V</Pol><Climate>Desert</Climate><Conf>50.00</Conf><Time>90.00</Time>"
+        "</PropertiesITM>");
+    // With a surface, the text of which the library would choose by the climate.
+    row("ITM|Time=90|Conf=50|Surface=Sea Water|Climate=Desert|Pol=V|RRI=301.5",
+        "<PropertiesITM><RRI>301.5</RRI><Pol>V</Pol><Climate>Desert</Climate><Surface>Sea Water</Surface>"
+        "<Conf>50</Conf><Time>90</Time></PropertiesITM>");
+    row("P.452|DistRxCoast_km=40000|DistTxCoast_km=3|Inland_km=120.4|InlandCoastal_km=30|OverWater_km=12.5|Temp_C=-60|"
+        "Pressure_hPa=1013|TimePct=0.01|SurfaceRefract=329|DeltaN=45.59",
+        "<PropertiesP452><DeltaN>45.6</DeltaN><SurfaceRefract>329</SurfaceRefract><TimePct>0.01</TimePct>"
+        "<Pressure_hPa>1013</Pressure_hPa><Temp_C>-60</Temp_C><OverWater_km>12.5</OverWater_km>"
+        "<InlandCoastal_km>30.0</InlandCoastal_km><Inland_km>120.4</Inland_km><DistTxCoast_km>3.0</DistTxCoast_km>"
+        "<DistRxCoast_km>40000.0</DistRxCoast_km></PropertiesP452>");
+    row("P.1546|PathTypeForRxAnt=Undefined|PathTypeForBroadAnt=Land|PathCorrection=On|AvgAreaEnviro=Suburban|"
+        "RxAntEnviro=Warm Sea|BoardAntGain=2.15|LocVar=50|PropPathType=Cold Sea|TimePct=10|K-factor=1.333",
+        "<PropertiesP1546><K-factor>1.333</K-factor><TimePct>10.00</TimePct><PropPathType>Cold Sea</PropPathType>"
+        "<LocVar>50.00</LocVar><BoardAntGain>2.150</BoardAntGain><RxAntEnviro>Warm Sea</RxAntEnviro>"
+        "<AvgAreaEnviro>Suburban</AvgAreaEnviro><PathCorrection>On</PathCorrection>"
+        "<PathTypeForBroadAnt>Land</PathTypeForBroadAnt><PathTypeForRxAnt>Undefined</PathTypeForRxAnt>"
+        "</PropertiesP1546>");
+    row("P.526|K-factor=2", "<PropertiesP526><K-factor>2.000</K-factor></PropertiesP526>");
+    // With labels that the library would write as tags.
+    row("P.526|IncludeSubPathDiffractionLoss=Off|AssumeSmoothEarth=On|Surface=Fresh Water|Pol=Vertical|K-factor=2",
+        "<PropertiesP526><K-factor>2</K-factor><Pol>Vertical</Pol><Surface>Fresh Water</Surface>"
+        "<AssumeSmoothEarth>On</AssumeSmoothEarth><IncludeSubPathDiffractionLoss>Off</IncludeSubPathDiffractionLoss>"
+        "</PropertiesP526>");
+    row("P.533|SmoothedSunSpotNumber=999.9|K-factor=1",
+        "<PropertiesP533><K-factor>1.000</K-factor><SmoothedSunSpotNumber>999.9</SmoothedSunSpotNumber>"
+        "</PropertiesP533>");
+    row("Okumura-Hata|CitySize=Medium|AreaType=Open rural",
+        "<PropertiesOkumura><AreaType>Open rural</AreaType><CitySize>Medium</CitySize></PropertiesOkumura>");
+    // With a K-factor, which the library would write under the tag of the set.
+    row("Okumura-Hata|CitySize=Medium|AreaType=Open rural|K-factor=1.3333",
+        "<PropertiesOkumura><K-factor>1.3333</K-factor><AreaType>Open rural</AreaType><CitySize>Medium</CitySize>"
+        "</PropertiesOkumura>");
+}
+
+void ConversationTest::modelsAreSentAsTheServiceReadsThem()
+{
+    QFETCH(QStringList, words);
+    QFETCH(QByteArray, command);
+    const QStringList arguments =
+        QStringList{QStringLiteral("--reference"), QStringLiteral("m"), QStringLiteral("model")} + words;
+
+    FakeService fake(framed("rubbish"));
+    QCOMPARE(fake.client(arguments).status, 2);
+    QVERIFY2(fake.received().contains("</ORDER_DEF>" + command + "</Commands>"), fake.received().constData());
+
+    RunningService service;
+    const Run run = service.client(arguments);
+    QCOMPARE(run.errors, QString());
+    QVERIFY2(run.output.contains(QLatin1String("[reference m] Done at 20")), qPrintable(run.output));
+    QCOMPARE(run.status, 0);
+}
+
+void ConversationTest::everyChoiceOfAModelCanBeSent_data()
+{
+    QTest::addColumn<QString>("model");
+    QTest::addColumn<QString>("parameter");
+    QTest::addColumn<QString>("value");
+    const auto rows = [](const char* model, const char* parameter, const char* values) {
+        const QStringList list = QString::fromLatin1(values).split(QLatin1Char('|'));
+        for (const QString& value : list)
+            QTest::addRow("%s %s=%s", model, parameter, qPrintable(value))
+                << QString::fromLatin1(model) << QString::fromLatin1(parameter) << value;
+    };
+    const char* paths = "Undefined|Land|Cold Sea|Warm Sea";
+    const char* surroundings = "Undefined|Open|Suburban|Warm Sea";
+    const char* grounds = "Average Ground|Poor Ground|Good Ground|Fresh Water|Sea Water";
+    rows("ITM", "Pol", "H|V");
+    rows("ITM", "Climate",
+         "Equatorial|Continental Subtropical|Maritime Tropical|Desert|Continental Temperate|"
+         "Maritime Temperate, Land|Maritime Temperate, Sea");
+    rows("ITM", "Surface", grounds);
+    rows("P.1546", "PropPathType", paths);
+    rows("P.1546", "RxAntEnviro", surroundings);
+    rows("P.1546", "AvgAreaEnviro", surroundings);
+    rows("P.1546", "PathCorrection", "Off|On");
+    rows("P.1546", "PathTypeForBroadAnt", paths);
+    rows("P.1546", "PathTypeForRxAnt", paths);
+    rows("P.526", "Pol", "Horizontal|Vertical");
+    rows("P.526", "Surface", grounds);
+    rows("P.526", "AssumeSmoothEarth", "Off|On");
+    rows("P.526", "IncludeSubPathDiffractionLoss", "Off|On");
+    rows("Okumura-Hata", "AreaType", "Urban|Suburban|Open rural");
+    rows("Okumura-Hata", "CitySize", "Small|Medium|Large");
+}
+
+void ConversationTest::everyChoiceOfAModelCanBeSent()
+{
+    QFETCH(QString, model);
+    QFETCH(QString, parameter);
+    QFETCH(QString, value);
+    FakeService service(framed("rubbish"));
+    service.client({QStringLiteral("model"), model, parameter + QLatin1Char('=') + value});
+    const QString element = QStringLiteral("<%1>%2</%1>").arg(parameter, value);
+    QVERIFY2(service.received().contains(element.toUtf8()), service.received().constData());
+}
+
+void ConversationTest::everyModelIsNamedInTheResult_data()
+{
+    QTest::addColumn<QString>("model");
+    for (const char* model : {"Free-space", "OLOS", "ITM", "P.452", "P.1546", "P.526", "P.533", "Okumura-Hata"})
+        QTest::newRow(model) << QString::fromLatin1(model);
+}
+
+void ConversationTest::everyModelIsNamedInTheResult()
+{
+    QFETCH(QString, model);
+    RunningService service;
+    const CommandFile commands("<PropagationModel><SelectModel>" + model.toLatin1()
+                               + "</SelectModel><Reference>m</Reference></PropagationModel><Calculate>"
+                                 "<InterlinkPlanning><FirstName>A</FirstName><SecondName>B</SecondName>"
+                                 "</InterlinkPlanning><Reference>l</Reference></Calculate>");
+    const Run run = service.client({QStringLiteral("--commands"), commands.path()});
+    QCOMPARE(run.errors, QString());
+    QVERIFY2(run.output.contains(QStringLiteral("The link from A to B is feasible, calculated with %1.\n").arg(model)),
+             qPrintable(run.output));
+    QCOMPARE(run.status, 0);
+    QTRY_VERIFY_WITH_TIMEOUT(
+        service.log().contains(
+            QStringLiteral("answered with: model %1 (reference m), interlink result with %1 (reference l)\n")
+                .arg(model)),
+        patienceMs);
+}
+
+void ConversationTest::theModelChosenLastIsKept()
+{
+    RunningService service;
+    const auto calculatesWith = [&service](const char* model) {
+        const QString text = QStringLiteral("calculated with %1.\n").arg(QLatin1String(model));
+        return service.client({QStringLiteral("interlink"), QStringLiteral("A"), QStringLiteral("B")})
+            .output.contains(text);
+    };
+    const auto choose = [&service](const QByteArray& content, const QByteArray& behind = QByteArray()) {
+        RawClient client(service);
+        client.send(framed("<C><PropagationModel>" + content + "<Reference>m</Reference></PropagationModel>" + behind
+                           + "</C>"));
+        return client.receive();
+    };
+
+    QVERIFY(calculatesWith("Free-space"));
+    QVERIFY(choose("<SelectModel>P.452</SelectModel>").contains("status=\"ack\""));
+    QVERIFY(calculatesWith("P.452"));
+    QVERIFY(choose("<SelectModel>ITM</SelectModel>").contains("status=\"ack\""));
+    QVERIFY(calculatesWith("ITM"));
+    // Neither of these is accepted.
+    const QByteArray tooHigh = "<PropertiesOLOS><K-factor>6</K-factor></PropertiesOLOS>";
+    QVERIFY(errorMessage(choose("<SelectModel>OLOS</SelectModel>" + tooHigh)).contains(QLatin1String("K-factor out")));
+    QVERIFY(errorMessage(choose("<SelectModel>olos</SelectModel>")).contains(QLatin1String("Illegal enum value.")));
+    const QByteArray badOrder = "<Calculate><InterlinkPlanning><FirstName>A</FirstName><SecondName/>"
+                                "</InterlinkPlanning><Reference>l</Reference></Calculate>";
+    QVERIFY(errorMessage(choose("<SelectModel>OLOS</SelectModel>", badOrder))
+                .contains(QLatin1String("SecondName not set")));
+    QVERIFY(calculatesWith("ITM"));
+    // Parameters alone leave the model as it is.
+    QVERIFY(choose("<PropertiesOLOS><K-factor>2</K-factor></PropertiesOLOS>").contains("status=\"ack\""));
+    QVERIFY(calculatesWith("ITM"));
+}
+
+void ConversationTest::aModelIsAnsweredOnce()
+{
+    RunningService service;
+    RawClient client(service);
+    QVERIFY(client.send(framed(sample("good/model-p526.xml")) + framed(sample("good/query-version.xml"))));
+    XmlRespRoot root;
+    QCOMPARE(read(root, client.receive()), QString());
+    QVERIFY(root.isValid());
+    QVERIFY(root.isFinal());
+    QCOMPARE(root.orderDef()->orderId(), QStringLiteral("ARV240305140709042"));
+    QCOMPARE(root.autoResp()->status(), XmlAutoRespType::StatusAck);
+    QCOMPARE(root.autoResp()->reference().reference(), QStringLiteral("model-p526"));
+    QVERIFY(qAbs(root.autoResp()->estimatedTime().secsTo(QDateTime::currentDateTime())) < patienceMs / 1000);
+    QVERIFY(client.receive().contains("<ArvVersion>"));
+}
+
+void ConversationTest::aCompleteDocumentGoesThrough()
+{
+    RunningService service;
+    const Run run = service.client({QStringLiteral("--commands"), samplePath(QStringLiteral("good/complete.xml"))});
+
+    QCOMPARE(run.errors, QString());
+    QCOMPARE(run.status, 0);
+    QVERIFY2(run.output.contains(QLatin1String(": 17 commands of ")), qPrintable(run.output));
+    // One version, then seven creates, two deletes and the model, then six orders.
+    QVERIFY(run.output.contains(QLatin1String("[reference complete-1] Version of the service")));
+    for (int i = 2; i <= 11; ++i)
+        QVERIFY2(run.output.contains(QStringLiteral("[reference complete-%1] Done at 20").arg(i)),
+                 qPrintable(run.output));
+    for (int i = 12; i <= 17; ++i)
+        QVERIFY2(run.output.contains(QStringLiteral("[reference complete-%1] Result expected at 20").arg(i)),
+                 qPrintable(run.output));
+    QVERIFY(run.output.contains(QLatin1String("Delivered by the service on its own: station Station Cliff\n")));
+    QCOMPARE(run.output.count(QLatin1String("] Grid result: ")), 5);
+    QVERIFY2(run.output.contains(QLatin1String("[reference complete-16] Result: interlink from Relay Ridge South to "
+                                               "Relay Harbour\n  The link from Relay Ridge South to Relay Harbour is "
+                                               "feasible, calculated with P.526.\n")),
+             qPrintable(run.output));
 }
 
 void ConversationTest::documentsMayComeInPiecesOrTogether()

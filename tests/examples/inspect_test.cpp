@@ -43,6 +43,8 @@ private Q_SLOTS:
     void rewritesWhatIsReadableThoughNotAcceptable();
     void whatIsRewrittenIsNotAlwaysReadable_data();
     void whatIsRewrittenIsNotAlwaysReadable();
+    void rewrittenModelsAreNotAlwaysReadable_data();
+    void rewrittenModelsAreNotAlwaysReadable();
 };
 
 void InspectTest::samples_data()
@@ -85,7 +87,7 @@ void InspectTest::everySampleIsExpected()
         QVERIFY2(expected.contains(file), qPrintable(file));
         ++samples;
     }
-    QVERIFY(samples > 90);
+    QVERIFY(samples > 140);
 }
 
 void InspectTest::theWorstFileCounts()
@@ -206,6 +208,63 @@ void InspectTest::whatIsRewrittenIsNotAlwaysReadable()
 
     QVERIFY2(again.output.contains(text), qPrintable(again.output));
     QCOMPARE(again.status, status);
+}
+
+void InspectTest::rewrittenModelsAreNotAlwaysReadable_data()
+{
+    QTest::addColumn<QString>("set");
+    QTest::addColumn<QString>("rewritten");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char* name, const char* set, const char* rewritten, const char* text) {
+        QTest::newRow(name) << QString::fromLatin1(set) << QString::fromLatin1(rewritten) << QString::fromLatin1(text);
+    };
+    const char* good = "command document, acceptable";
+    row("P.1546 is", "<PropertiesP1546><TimePct>10</TimePct><RxAntEnviro>Warm Sea</RxAntEnviro></PropertiesP1546>",
+        "<PropertiesP1546><TimePct>10.00</TimePct><RxAntEnviro>Warm Sea</RxAntEnviro></PropertiesP1546>", good);
+    row("P.526 with a K-factor alone is", "<PropertiesP526><K-factor>2</K-factor></PropertiesP526>",
+        "<PropertiesP526><K-factor>2.000</K-factor></PropertiesP526>", good);
+    row("P.526 with a polarisation is not", "<PropertiesP526><Pol>Vertical</Pol></PropertiesP526>",
+        "<PropertiesP526><Polarisation>Vertical</Polarisation></PropertiesP526>",
+        "Unexpected token \"StartElement\": Polarisation.");
+    row("P.526 with another label is no XML", "<PropertiesP526><Surface>Sea Water</Surface></PropertiesP526>",
+        "<PropertiesP526><Surface Condition>Sea Water</Surface Condition></PropertiesP526>",
+        "command document, reading stops at line 1, ");
+    row("Okumura-Hata without a K-factor is", "<PropertiesOkumura><CitySize>Large</CitySize></PropertiesOkumura>",
+        "<PropertiesOkumura><CitySize>Large</CitySize></PropertiesOkumura>", good);
+    row("Okumura-Hata with a K-factor is not", "<PropertiesOkumura><K-factor>2</K-factor></PropertiesOkumura>",
+        "<PropertiesOkumura><PropertiesOkumura>2.0000</PropertiesOkumura></PropertiesOkumura>",
+        "Unexpected token \"StartElement\": PropertiesOkumura.");
+    row("ITM is, with another surface",
+        "<PropertiesITM><Climate>Continental Subtropical</Climate><Surface>Sea Water</Surface></PropertiesITM>",
+        "<PropertiesITM><Climate>Continental Subtropical</Climate><Surface>Poor Ground</Surface></PropertiesITM>",
+        good);
+    row("ITM with a surface but no climate is not", "<PropertiesITM><Surface>Sea Water</Surface></PropertiesITM>",
+        "<PropertiesITM><Surface>UNDEFINED</Surface></PropertiesITM>", "Illegal value for \"Surface\".");
+}
+
+void InspectTest::rewrittenModelsAreNotAlwaysReadable()
+{
+    QFETCH(QString, set);
+    QFETCH(QString, rewritten);
+    QFETCH(QString, text);
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("document.xml"));
+    const auto write = [&path](const QString& document) {
+        QFile file(path);
+        return file.open(QIODevice::WriteOnly) && file.write(document.toUtf8()) > 0;
+    };
+
+    QVERIFY(write(QStringLiteral("<Commands><PropagationModel>%1<Reference>m</Reference></PropagationModel></Commands>")
+                      .arg(set)));
+    const Run first = inspect({QStringLiteral("--rewrite"), path});
+    QCOMPARE(first.status, 0);
+    QVERIFY2(first.output.contains(QStringLiteral("<PropagationModel>%1<Reference>").arg(rewritten)),
+             qPrintable(first.output));
+    QVERIFY(write(first.output));
+    const Run again = inspect({path});
+
+    QVERIFY2(again.output.contains(text), qPrintable(again.output));
+    QCOMPARE(again.status, text.endsWith(QLatin1String("acceptable")) ? 0 : 1);
 }
 
 QTEST_GUILESS_MAIN(InspectTest)
