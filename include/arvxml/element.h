@@ -38,8 +38,8 @@ public:
     /// where a text should be, the reader raises itself in its own words. What was read until then is
     /// kept. Values out of range are no failure here; see isValid().
     ///
-    /// On another token than a start tag, elements with attributes of their own raise "Parse error
-    /// (wrong position)"; the others go on with the next token.
+    /// On another token than a start tag, elements with attributes, and others whose class says so, raise
+    /// "Parse error (wrong position)"; the rest go on with the next token.
     virtual void processXml(QXmlStreamReader& reader, const QString& tagName) = 0;
 
     /// Writes the element under the tag \a tagName. What is held is written, valid or not.

@@ -7,8 +7,11 @@ namespace ArvXml {
 /// The parameters of the Irregular Terrain Model, all optional:
 /// `<PropertiesITM><RRI>300.0000</RRI><Pol>H</Pol>...</PropertiesITM>`.
 ///
-/// Each parameter comes at most once, in the order of the accessors below. Texts are read exactly; undefined
-/// choices are written "UNDEFINED", not read, and invalid. Reading resets the set first.
+/// Each parameter comes at most once, in the order of the accessors below. Choices are read exactly by their
+/// texts: "H", "V"; "Equatorial", "Continental Subtropical", "Maritime Tropical", "Desert", "Continental
+/// Temperate", "Maritime Temperate, Land", "Maritime Temperate, Sea"; "Average Ground", "Poor Ground", "Good
+/// Ground", "Fresh Water", "Sea Water". Value 0 is written "UNDEFINED", not read, and invalid; a value outside
+/// is written so, too, but valid. Reading resets the set first.
 class ARVXML_EXPORT XmlPropModelITMType : public XmlParameterSet {
 public:
     enum Polarisation : int {
@@ -40,9 +43,9 @@ public:
     XmlPropModelITMType();
 
     /// The radio refractivity, tag "RRI": -300.0 to 400.0, default 300.0.
-    double RRI() const { return realValue(RriValueRow); }
-    void setRRI(double value) { setValue(RriValueRow, value); }
-    bool hasRRI() const { return isPresent(RriValueRow); }
+    double RRI() const { return realValue(RriRow); }
+    void setRRI(double value) { setValue(RriRow, value); }
+    bool hasRRI() const { return isPresent(RriRow); }
 
     /// The polarisation, tag "Pol" ("Illegal polarisation").
     Polarisation pol() { return choiceValue<Polarisation>(PolRow); }
@@ -51,17 +54,17 @@ public:
     bool hasPol() const { return isPresent(PolRow); }
 
     /// The radio climate, tag "Climate" ("Illegal climate").
-    Climate climate() { return choiceValue<Climate>(ClimateValueRow); }
-    Climate climate() const { return choiceValue<Climate>(ClimateValueRow); }
-    void setClimate(Climate value) { setValue(ClimateValueRow, value); }
-    bool hasClimate() const { return isPresent(ClimateValueRow); }
+    Climate climate() { return choiceValue<Climate>(ClimateRow); }
+    Climate climate() const { return choiceValue<Climate>(ClimateRow); }
+    void setClimate(Climate value) { setValue(ClimateRow, value); }
+    bool hasClimate() const { return isPresent(ClimateRow); }
 
     /// The ground, tag "Surface" ("Illegal surface"). The text written is chosen by the value of the climate:
     /// climate 2 writes "Poor Ground", whatever the ground is.
-    Surface surface() { return choiceValue<Surface>(SurfaceValueRow); }
-    Surface surface() const { return choiceValue<Surface>(SurfaceValueRow); }
-    void setSurface(Surface value) { setValue(SurfaceValueRow, value); }
-    bool hasSurface() const { return isPresent(SurfaceValueRow); }
+    Surface surface() { return choiceValue<Surface>(SurfaceRow); }
+    Surface surface() const { return choiceValue<Surface>(SurfaceRow); }
+    void setSurface(Surface value) { setValue(SurfaceRow, value); }
+    bool hasSurface() const { return isPresent(SurfaceRow); }
 
     /// The confidence, tag "Conf": 0.0 to 100.0, default 0.5.
     double conf() const { return realValue(ConfRow); }
@@ -77,7 +80,7 @@ protected:
     const ParameterTable& table() const override;
 
 private:
-    enum Row { RriValueRow, PolRow, ClimateValueRow, SurfaceValueRow, ConfRow, TimeRow };
+    enum Row { RriRow, PolRow, ClimateRow, SurfaceRow, ConfRow, TimeRow };
 };
 
 } // namespace ArvXml

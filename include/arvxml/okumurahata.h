@@ -8,8 +8,9 @@ namespace ArvXml {
 /// <K-factor>1.3333</K-factor><AreaType>Urban</AreaType><CitySize>Large</CitySize></PropertiesOkumura>`.
 ///
 /// The K-factor is written under the tag of the set itself, which the reader refuses: a set with a K-factor
-/// cannot be read back. Each parameter comes at most once, in this order. Texts are read exactly; undefined
-/// choices are written "UNDEFINED", not read, and invalid. Reading resets the set first.
+/// cannot be read back. Each parameter comes at most once, in this order. Choices are read exactly by their
+/// texts: "Urban", "Suburban", "Open rural"; "Small", "Medium", "Large". Value 0 is written "UNDEFINED", not
+/// read, and invalid; a value outside is written so, too, but valid. Reading resets the set first.
 class ARVXML_EXPORT XmlPropModelHataType : public XmlParameterSet {
 public:
     enum Area : int {
@@ -28,7 +29,7 @@ public:
 
     XmlPropModelHataType();
 
-    /// The effective earth radius factor, tag "K-factor": 0.1 to 5.0, default 1.3333.
+    /// The effective earth radius factor, tag "K-factor" ("Kfactor" in messages): 0.1 to 5.0, default 1.3333.
     double Kfactor() const { return realValue(KFactorRow); }
     void setKfactor(double value) { setValue(KFactorRow, value); }
     bool hasKfactor() const { return isPresent(KFactorRow); }

@@ -18,7 +18,8 @@ public:
     void setKfactor(double value) { setValue(KFactorRow, value); }
     bool hasKfactor() const { return isPresent(KFactorRow); }
 
-    /// The greatest range, tag "MaxRange_km": 0.1 to 50.0 km, default 50.0.
+    /// The greatest range, tag "MaxRange_km" ("Range out of bounds", "Illegal range value (must be numeric)"):
+    /// 0.1 to 50.0 km, default 50.0.
     double maxRange_km() const { return realValue(MaxRangeRow); }
     void setMaxRange_km(double value) { setValue(MaxRangeRow, value); }
     bool hasMaxRange_km() const { return isPresent(MaxRangeRow); }

@@ -7,8 +7,10 @@ namespace ArvXml {
 /// The parameters of the ITU-R P.1546 point-to-area model, all optional:
 /// `<PropertiesP1546><K-factor>1.333</K-factor><TimePct>50.00</TimePct>...</PropertiesP1546>`.
 ///
-/// Each parameter comes at most once, in the order of the accessors below. Texts are read exactly. Reading
-/// resets the set first.
+/// Each parameter comes at most once, in the order of the accessors below. Choices are read exactly by their
+/// texts, that of value 0 included: "Undefined", "Land", "Cold Sea", "Warm Sea"; "Undefined", "Open",
+/// "Suburban", "Warm Sea"; "Off", "On". A value outside is written with the text of value 0. Reading resets the
+/// set first.
 class ARVXML_EXPORT XmlPropModelP1546Type : public XmlParameterSet {
 public:
     enum Path : int {
@@ -44,10 +46,10 @@ public:
     bool hasTime() const { return isPresent(TimeRow); }
 
     /// The type of the path, tag "PropPathType".
-    Path path() { return choiceValue<Path>(PathTypeRow); }
-    Path path() const { return choiceValue<Path>(PathTypeRow); }
-    void setPath(Path value) { setValue(PathTypeRow, value); }
-    bool hasPath() const { return isPresent(PathTypeRow); }
+    Path path() { return choiceValue<Path>(PathRow); }
+    Path path() const { return choiceValue<Path>(PathRow); }
+    void setPath(Path value) { setValue(PathRow, value); }
+    bool hasPath() const { return isPresent(PathRow); }
 
     /// The percentage of locations, tag "LocVar": 1.0 to 99.0, default 50.0. A text that is no number leaves
     /// 50.0 as present, and makes "TimePct" absent instead.
@@ -55,8 +57,9 @@ public:
     void setLocVar(double value) { setValue(LocVarRow, value); }
     bool hasLocVar() const { return isPresent(LocVarRow); }
 
-    /// The gain of the broadcasting antenna, tag "BoardAntGain" (so spelled): 0.0 to 99.999, default 0.0. A
-    /// text that is no number leaves 50.0. The setter is spelled "GAin".
+    /// The gain of the broadcasting antenna, tag "BoardAntGain" (so spelled, but its
+    /// problem reads "BroadAntGain out of bounds"): 0.0 to 99.999, default 0.0. A text that is no number leaves
+    /// 50.0. The setter is spelled "GAin".
     double broadAntGain() const { return realValue(BroadAntGainRow); }
     void setBroadAntGAin(double value) { setValue(BroadAntGainRow, value); }
     bool hasBroadAntGain() const { return isPresent(BroadAntGainRow); }
@@ -98,7 +101,7 @@ private:
     enum Row {
         KFactorRow,
         TimeRow,
-        PathTypeRow,
+        PathRow,
         LocVarRow,
         BroadAntGainRow,
         RxAntERow,

@@ -7,9 +7,11 @@ namespace ArvXml {
 /// The parameters of the ITU-R P.526 diffraction model, all optional: read as
 /// `<PropertiesP526><K-factor>1.333</K-factor><Pol>Vertical</Pol>...</PropertiesP526>`.
 ///
-/// All but the K-factor are written under other names than they are read, labels with blanks that no XML
-/// reader accepts: what the library writes of them cannot be read back. Each parameter comes at most once, in
-/// the order of the accessors below. Texts are read exactly. Reading resets the set first.
+/// All but the K-factor are written under other names than they are read ("Polarisation", and labels with
+/// blanks, which are no names of XML): none of them can be read back. Each parameter comes at most once, in the
+/// order of the accessors below. Choices are read exactly by their texts, that of value 0 included:
+/// "Horizontal", "Vertical"; "Average Ground", "Poor Ground", "Good Ground", "Fresh Water", "Sea Water"; "Off",
+/// "On". A value outside is written with the default's text. Reading resets the set first.
 class ARVXML_EXPORT XmlPropModelP526Type : public XmlParameterSet {
 public:
     enum Polarisation : int {

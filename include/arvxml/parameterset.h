@@ -12,11 +12,15 @@ class ParameterTable;
 ///
 /// Each value has a flag that tells whether it is present; only present values are written and judged.
 /// Setters store the value without checking and set the flag; getters return the value whether present
-/// or not. Flags are cleared by reset() and by a text that cannot be read ("Illegal K-factor value (must
-/// be numeric)"). Numbers out of range are stored while reading, and reported afterwards. A set has no
-/// attributes and no version.
+/// or not. A flag is cleared by reset(), and by a text that cannot be read ("Illegal K-factor value (must be
+/// numeric)"); the value is then the default, where its class says nothing else. Numbers out of range are
+/// stored while reading, and reported afterwards. A set has no attributes and no version.
 class ARVXML_EXPORT XmlParameterSet : public XmlElement {
 public:
+    XmlParameterSet(const XmlParameterSet&) = default;
+    XmlParameterSet& operator=(const XmlParameterSet&) = default;
+    ~XmlParameterSet() override = default;
+
     void processXml(QXmlStreamReader& reader, const QString& tagName) override;
     void produceXml(QXmlStreamWriter& writer, const QString& tagName) const override;
     bool isValid() const override;

@@ -17,6 +17,9 @@ namespace ArvXml {
 ///
 /// Texts "Free-space", "OLOS", "ITM", "P.452", "P.1546", "P.526", "P.533", "Okumura-Hata"; another text is
 /// the reader error "Illegal enum value.". Undefined is reported as "No model selected.".
+///
+/// Unlike the other enumerations it is read from a start tag only ("Parse error (wrong position)"), and its
+/// text is read whole: comments do not cut it, and an empty one is an unknown one.
 class ARVXML_EXPORT XmlPropModelEnumType : public XmlEnumeration {
 public:
     enum Model : int {
@@ -51,7 +54,8 @@ protected:
 /// object that is a command. Reading does not reset the element first; a child read replaces the one held.
 class ARVXML_EXPORT XmlPropModelType : public XmlCommand {
 public:
-    /// \a isCommand tells whether the element is a command, with a reference; it stays so for good.
+    /// \a isCommand tells whether the element is a command, with a reference. Reading and reset() leave
+    /// that as it is; copies take it over.
     explicit XmlPropModelType(bool isCommand);
     bool isCommand() const { return m_isCommand; }
 

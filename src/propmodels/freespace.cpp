@@ -12,10 +12,12 @@ XmlPropModelFSType::XmlPropModelFSType()
 
 const ParameterTable& XmlPropModelFSType::table() const
 {
+    // real: tag, default, decimals, lowest, highest, problem out of range, reader error
     static const ParameterTable table =
         ParameterTable({
-                           repeatable(real("K-factor", 1.3333, 4, 0.1, 5.0, "K-factor out of bounds",
-                                           "Illegal K-factor value (must be numeric)")),
+                           {KFactorRow,
+                            repeatable(real("K-factor", 1.3333, 4, 0.1, 5.0, "K-factor out of bounds",
+                                            "Illegal K-factor value (must be numeric)"))},
                        })
             .keptBeforeReading();
     return table;

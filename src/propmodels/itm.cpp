@@ -12,25 +12,31 @@ XmlPropModelITMType::XmlPropModelITMType()
 
 const ParameterTable& XmlPropModelITMType::table() const
 {
-    // Each list of texts starts with that of value 1.
-    static const std::vector<QString> polarisations = texts({"H", "V"});
+    static const std::vector<QString> polarisations = texts({"UNDEFINED", "H", "V"});
     static const std::vector<QString> climates =
-        texts({"Equatorial", "Continental Subtropical", "Maritime Tropical", "Desert", "Continental Temperate",
-               "Maritime Temperate, Land", "Maritime Temperate, Sea"});
+        texts({"UNDEFINED", "Equatorial", "Continental Subtropical", "Maritime Tropical", "Desert",
+               "Continental Temperate", "Maritime Temperate, Land", "Maritime Temperate, Sea"});
     static const std::vector<QString> surfaces =
-        texts({"Average Ground", "Poor Ground", "Good Ground", "Fresh Water", "Sea Water"});
+        texts({"UNDEFINED", "Average Ground", "Poor Ground", "Good Ground", "Fresh Water", "Sea Water"});
+
+    // real: tag, default, decimals, lowest, highest, problem out of range, reader error
+    // definedChoice: tag, texts from value 0 on, problem of value 0, reader error
     static const ParameterTable table =
         ParameterTable(
             {
-                real("RRI", 300.0, 4, -300.0, 400.0, "RRI out of bounds", "Illegal RRI value (must be numeric)"),
-                definedChoice("Pol", polarisations, "Illegal polarisation", "Illegal value for \"Pol\""),
-                definedChoice("Climate", climates, "Illegal climate", "Illegal value for \"Climate\""),
-                textChosenBy(ClimateValueRow,
-                             definedChoice("Surface", surfaces, "Illegal surface", "Illegal value for \"Surface\"")),
-                real("Conf", 0.5, 2, 0.0, 100.0, "Conf out of bounds", "Illegal Conf value (must be numeric)"),
-                real("Time", 0.5, 2, 0.0, 100.0, "Time out of bounds", "Illegal Time value (must be numeric)"),
+                {RriRow,
+                 real("RRI", 300.0, 4, -300.0, 400.0, "RRI out of bounds", "Illegal RRI value (must be numeric)")},
+                {PolRow, definedChoice("Pol", polarisations, "Illegal polarisation", "Illegal value for \"Pol\"")},
+                {ClimateRow, definedChoice("Climate", climates, "Illegal climate", "Illegal value for \"Climate\"")},
+                {SurfaceRow,
+                 textChosenBy(ClimateRow,
+                              definedChoice("Surface", surfaces, "Illegal surface", "Illegal value for \"Surface\""))},
+                {ConfRow,
+                 real("Conf", 0.5, 2, 0.0, 100.0, "Conf out of bounds", "Illegal Conf value (must be numeric)")},
+                {TimeRow,
+                 real("Time", 0.5, 2, 0.0, 100.0, "Time out of bounds", "Illegal Time value (must be numeric)")},
             })
-            .reportedInOrder({RriValueRow, ConfRow, TimeRow, ClimateValueRow, PolRow, SurfaceValueRow});
+            .reportedInOrder({RriRow, ConfRow, TimeRow, ClimateRow, PolRow, SurfaceRow});
     return table;
 }
 

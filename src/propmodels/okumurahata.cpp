@@ -12,14 +12,17 @@ XmlPropModelHataType::XmlPropModelHataType()
 
 const ParameterTable& XmlPropModelHataType::table() const
 {
-    // Each list of texts starts with that of value 1.
-    static const std::vector<QString> areas = texts({"Urban", "Suburban", "Open rural"});
-    static const std::vector<QString> sizes = texts({"Small", "Medium", "Large"});
+    static const std::vector<QString> areas = texts({"UNDEFINED", "Urban", "Suburban", "Open rural"});
+    static const std::vector<QString> sizes = texts({"UNDEFINED", "Small", "Medium", "Large"});
+
+    // real: tag, default, decimals, lowest, highest, problem out of range, reader error
+    // definedChoice: tag, texts from value 0 on, problem of value 0, reader error
     static const ParameterTable table = {
-        writtenAsTheSet(
-            real("K-factor", 1.3333, 4, 0.1, 5.0, "Kfactor out of bounds", "Illegal Kfactor value (must be numeric)")),
-        definedChoice("AreaType", areas, "Illegal AreaType", "Illegal value for \"AreaType\""),
-        definedChoice("CitySize", sizes, "Illegal CitySize", "Illegal value for \"CitySize\""),
+        {KFactorRow,
+         writtenAsTheSet(real("K-factor", 1.3333, 4, 0.1, 5.0, "Kfactor out of bounds",
+                              "Illegal Kfactor value (must be numeric)"))},
+        {AreaTypeRow, definedChoice("AreaType", areas, "Illegal AreaType", "Illegal value for \"AreaType\"")},
+        {CitySizeRow, definedChoice("CitySize", sizes, "Illegal CitySize", "Illegal value for \"CitySize\"")},
     };
     return table;
 }

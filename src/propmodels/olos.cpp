@@ -12,13 +12,16 @@ XmlPropModelOLOSType::XmlPropModelOLOSType()
 
 const ParameterTable& XmlPropModelOLOSType::table() const
 {
+    // real: tag, default, decimals, lowest, highest, problem out of range, reader error
     static const ParameterTable table =
-        ParameterTable(
-            {
-                repeatable(real("K-factor", 1.0, 4, 0.1, 5.0, "K-factor out of bounds",
-                                "Illegal K-factor value (must be numeric)")),
-                real("MaxRange_km", 50.0, 3, 0.1, 50.0, "Range out of bounds", "Illegal range value (must be numeric)"),
-            })
+        ParameterTable({
+                           {KFactorRow,
+                            repeatable(real("K-factor", 1.0, 4, 0.1, 5.0, "K-factor out of bounds",
+                                            "Illegal K-factor value (must be numeric)"))},
+                           {MaxRangeRow,
+                            real("MaxRange_km", 50.0, 3, 0.1, 50.0, "Range out of bounds",
+                                 "Illegal range value (must be numeric)")},
+                       })
             .keptBeforeReading();
     return table;
 }

@@ -12,10 +12,13 @@ XmlPropModelP533Type::XmlPropModelP533Type()
 
 const ParameterTable& XmlPropModelP533Type::table() const
 {
+    // real: tag, default, decimals, lowest, highest, problem out of range, reader error
     static const ParameterTable table = {
-        real("K-factor", 1.0, 3, 0.1, 5.0, "K-factor out of bounds", "Illegal K-factor value (must be numeric)"),
-        real("SmoothedSunSpotNumber", 5.0, 1, 0.0, 999.9, "SmoothedSunSpotNumber out of bounds",
-             "Illegal SmoothedSunSpotNumber value (must be numeric)"),
+        {KFactorRow,
+         real("K-factor", 1.0, 3, 0.1, 5.0, "K-factor out of bounds", "Illegal K-factor value (must be numeric)")},
+        {SunSpotsRow,
+         real("SmoothedSunSpotNumber", 5.0, 1, 0.0, 999.9, "SmoothedSunSpotNumber out of bounds",
+              "Illegal SmoothedSunSpotNumber value (must be numeric)")},
     };
     return table;
 }

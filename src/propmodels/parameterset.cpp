@@ -53,7 +53,7 @@ void XmlParameterSet::readParameter(int parameter, ElementReader& in)
         value = toInteger(text, &ok);
         break;
     case ParameterRow::Choice: {
-        const auto first = row.texts.cbegin() + (row.readsUndefined ? 0 : 1);
+        const auto first = row.texts.cbegin() + (row.zeroIsUndefined ? 1 : 0);
         const auto found = std::find(first, row.texts.cend(), text);
         ok = found != row.texts.cend();
         value = static_cast<double>(found - row.texts.cbegin());
@@ -100,7 +100,7 @@ bool XmlParameterSet::isParameterValid(int parameter) const
     const ParameterRow& row = table().row(parameter);
     const double value = realValue(parameter);
     if (row.kind == ParameterRow::Choice)
-        return row.readsUndefined || value != 0.0;
+        return !row.zeroIsUndefined || value != 0.0;
     return !(value < row.min || value > row.max); // NaN passes
 }
 

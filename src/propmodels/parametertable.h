@@ -16,21 +16,21 @@ struct ParameterRow {
     Kind kind = Real;
     QString tag;               ///< read under this tag
     QString writtenTag;        ///< written under this one; null for the tag of the set itself
-    double byDefault = 0.0;    ///< the value of a new set
+    double byDefault = 0.0;    ///< the value of a new set; its text also stands for a choice outside the texts
     double afterBadText = 0.0; ///< the value after a text that cannot be read
     int decimals = 0;          ///< how many are written
     double min = -std::numeric_limits<double>::infinity();
     double max = std::numeric_limits<double>::infinity();
-    QString rangeError;         ///< the problem of a value out of range; NaN is in every range
-    QString readError;          ///< raised for a text that cannot be read
-    std::vector<QString> texts; ///< of a choice, by value
-    bool readsUndefined = true; ///< whether the text of value 0 is accepted
-    bool isRepeatable = false;  ///< whether it may come again while none after it has been read
-    int clearedByBadText = -1;  ///< the parameter whose flag a bad text clears; -1 for its own
-    int textChosenBy = -1;      ///< the parameter whose value chooses the text written; -1 for its own
+    QString rangeError;           ///< the problem of a value that is out of range (NaN never is) or undefined
+    QString readError;            ///< raised for a text that cannot be read
+    std::vector<QString> texts;   ///< of a choice, by value
+    bool zeroIsUndefined = false; ///< whether value 0 of a choice is not read, and a problem
+    bool isRepeatable = false;    ///< whether it may come again while none after it has been read
+    int clearedByBadText = -1;    ///< the parameter whose flag a bad text clears; -1 for its own
+    int textChosenBy = -1;        ///< the parameter whose value chooses the text written; -1 for its own
 };
 
-/// The texts of a choice.
+/// The texts of a choice, that of value 0 first.
 inline std::vector<QString> texts(std::initializer_list<const char*> list)
 {
     std::vector<QString> result;
@@ -39,7 +39,7 @@ inline std::vector<QString> texts(std::initializer_list<const char*> list)
     return result;
 }
 
-/// A real number, written with so many decimals.
+/// A real number, valid from \a min to \a max, written with \a decimals.
 inline ParameterRow real(const char* tag, double byDefault, int decimals, double min, double max,
                          const char* rangeError, const char* readError)
 {
@@ -54,7 +54,7 @@ inline ParameterRow real(const char* tag, double byDefault, int decimals, double
     return row;
 }
 
-/// A decimal integer.
+/// A decimal integer, valid from \a min to \a max.
 inline ParameterRow integer(const char* tag, int byDefault, int min, int max, const char* rangeError,
                             const char* readError)
 {
@@ -63,7 +63,7 @@ inline ParameterRow integer(const char* tag, int byDefault, int min, int max, co
     return row;
 }
 
-/// A choice out of \a texts, that of value 0 first.
+/// A choice out of \a texts.
 inline ParameterRow choice(const char* tag, int byDefault, std::vector<QString> texts, const char* readError)
 {
     ParameterRow row;
@@ -75,14 +75,13 @@ inline ParameterRow choice(const char* tag, int byDefault, std::vector<QString> 
     return row;
 }
 
-/// A choice whose value 0 means undefined: its text "UNDEFINED" is not read, and \a undefinedError is the
+/// A choice whose value 0 means undefined: its text is written but not read, and \a undefinedError is the
 /// problem of the value.
 inline ParameterRow definedChoice(const char* tag, std::vector<QString> texts, const char* undefinedError,
                                   const char* readError)
 {
-    texts.insert(texts.begin(), QStringLiteral("UNDEFINED"));
     ParameterRow row = choice(tag, 0, std::move(texts), readError);
-    row.readsUndefined = false;
+    row.zeroIsUndefined = true;
     row.rangeError = QString::fromLatin1(undefinedError);
     return row;
 }
@@ -123,11 +122,19 @@ inline ParameterRow repeatable(ParameterRow row)
 /// The parameters of a set, in the order of reading and writing.
 class ParameterTable {
 public:
-    ParameterTable(std::initializer_list<ParameterRow> rows)
-        : m_rows(rows)
+    /// A row, and the value of the set that it is about: they count alike.
+    struct NumberedRow {
+        int parameter;
+        ParameterRow row;
+    };
+
+    ParameterTable(std::initializer_list<NumberedRow> rows)
     {
-        for (int parameter = 0; parameter < size(); ++parameter)
-            m_reportOrder.push_back(parameter);
+        for (const NumberedRow& numbered : rows) {
+            Q_ASSERT(numbered.parameter == size());
+            m_reportOrder.push_back(numbered.parameter);
+            m_rows.push_back(numbered.row);
+        }
     }
 
     /// The set keeps what it holds when it is read; the usual set is reset first.
@@ -139,6 +146,7 @@ public:
     /// Problems are reported in another order than that of the table.
     ParameterTable& reportedInOrder(std::vector<int> order)
     {
+        Q_ASSERT(order.size() == m_rows.size());
         m_reportOrder = std::move(order);
         return *this;
     }

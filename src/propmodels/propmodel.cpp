@@ -49,7 +49,7 @@ XmlPropModelType::XmlPropModelType(bool isCommand)
 {
 }
 
-/// The reference; it counts only for a command.
+/// The reference; it is written and judged only for a command, and the gate lets only a command read it.
 Content XmlPropModelType::referenceOfCommand()
 {
     Content content = uncounted(reportedApart(child<&XmlPropModelType::m_reference>()));

@@ -67,7 +67,8 @@ const QVector<Child>& deviceChildren()
          QStringLiteral("<DeviceCategory>Cable</DeviceCategory>"),
          QStringLiteral("<DeviceCategory>UNDEFINED</DeviceCategory>")},
         {QStringLiteral("Name"), words("Name Frequencies Noises KFactors Attenuations Gains Degrees DBM"),
-         QStringLiteral("<Name>Filter 7</Name>"), QStringLiteral("<Name>Filter 7</Name>"), QStringLiteral("<Name></Name>")},
+         QStringLiteral("<Name>Filter 7</Name>"), QStringLiteral("<Name>Filter 7</Name>"),
+         QStringLiteral("<Name></Name>")},
         {QStringLiteral("Frequencies"), words("Frequencies Noises KFactors Attenuations Gains Degrees DBM"),
          QStringLiteral("<Frequencies><Frequency unit=\"MHz\">100</Frequency></Frequencies>"),
          QStringLiteral("<Frequencies version=\"1.0\"><Frequency version=\"1.0\" unit=\"MHz\">100.000000</Frequency>"
