@@ -170,7 +170,7 @@ void XmlComposite::reset()
 {
     for (const Row& row : form().m_rows)
         row.content.reset(*this);
-    XmlElementBase::reset();
+    XmlElement::reset();
 }
 
 quint32 XmlComposite::openElement(ElementReader&)
@@ -292,7 +292,7 @@ void XmlEnumeration::addErrors()
 void XmlEnumeration::reset()
 {
     m_value = 0;
-    XmlElementBase::reset();
+    XmlElement::reset();
 }
 
 } // namespace ArvXml

@@ -125,7 +125,7 @@ private:
 
     XmlElementBase& m_element;
     QXmlStreamReader& m_reader;
-    const QString& m_tagName;
+    const QString m_tagName; // a copy: the caller's may be a text of the very element that is read
     const Wording& m_wording;
     const bool m_atStartTag;
 };

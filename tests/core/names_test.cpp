@@ -173,6 +173,7 @@ private Q_SLOTS:
     void readingStartsAnywhere_data();
     void readingStartsAnywhere();
     void ownEndTagComesFirst();
+    void ownTextAsTag();
     void failedReadingLeavesAUsableElement();
 };
 
@@ -1237,6 +1238,21 @@ void endsAtTheInnerAll()
     QVERIFY(element.isValid());
     QCOMPARE(reader.readNext(), QXmlStreamReader::EndElement);
     QCOMPARE(reader.readNext(), QXmlStreamReader::EndDocument);
+}
+
+// The tag may be the text that the element holds and, reading, replaces.
+void NamesTest::ownTextAsTag()
+{
+    XmlObjNameType name;
+    name.setObjName(QStringLiteral("N"));
+    QXmlStreamReader reader(QStringLiteral("<D><N>another name</N><Next/></D>"));
+    reader.readNextStartElement();
+    reader.readNextStartElement();
+    name.processXml(reader, name.objName());
+    QCOMPARE(reader.errorString(), QString());
+    QCOMPARE(name.objName(), QStringLiteral("another name"));
+    QVERIFY(reader.readNextStartElement());
+    QCOMPARE(reader.name().toString(), QStringLiteral("Next"));
 }
 
 void NamesTest::ownEndTagComesFirst()

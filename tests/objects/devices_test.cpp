@@ -1,3 +1,4 @@
+#include "objects/gatedchild.h"
 #include "support/elementtest.h"
 
 #include <arvxml/devices.h>
@@ -9,53 +10,14 @@ using namespace ArvXml;
 using ElementTest::readError;
 using ElementTest::readFrom;
 using ElementTest::written;
+using ObjectTest::block;
+using ObjectTest::HasSetVersion;
+using ObjectTest::HasVersion;
+using ObjectTest::ShowsSupportsVersion;
+using ObjectTest::words;
+using Child = ObjectTest::GatedChild;
 
 namespace {
-
-// What users may call
-
-template <typename T, typename = void>
-struct HasVersion : std::false_type {
-};
-template <typename T>
-struct HasVersion<T, std::void_t<decltype(std::declval<T&>().version())>> : std::true_type {
-};
-
-template <typename T, typename = void>
-struct HasSetVersion : std::false_type {
-};
-template <typename T>
-struct HasSetVersion<T, std::void_t<decltype(std::declval<T&>().setVersion(QString()))>> : std::true_type {
-};
-
-template <typename T, typename = void>
-struct ShowsSupportsVersion : std::false_type {
-};
-template <typename T>
-struct ShowsSupportsVersion<T, std::void_t<decltype(std::declval<T&>().supportsVersion())>> : std::true_type {
-};
-
-// What elements look like
-
-QString block(const char* className, const QString& problems)
-{
-    return QStringLiteral("+++ in %1 Begin:\n%2\n--- in %1 End").arg(QLatin1String(className), problems);
-}
-
-/// A child of a device: its tag, the children after any of which it is refused, how it is read here, how
-/// it is written then, and how it is written by a new device.
-struct Child {
-    QString tag;
-    QStringList refusedAfter;
-    QString xml;
-    QString written;
-    QString byDefault;
-};
-
-QStringList words(const char* text)
-{
-    return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-}
 
 /// The children in the order of writing.
 const QVector<Child>& deviceChildren()

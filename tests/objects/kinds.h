@@ -1,5 +1,6 @@
 #pragma once
 
+#include "objects/gatedchild.h"
 #include "support/elementtest.h"
 
 #include <arvxml/element.h>
@@ -37,12 +38,6 @@ struct Gate {
     const char* tag;
     const char* refusedAfter;
 };
-
-/// The words of \a text.
-inline QStringList words(const char* text)
-{
-    return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-}
 
 /// Whether a word stands in both lists.
 inline bool haveCommon(const QStringList& some, const QStringList& others)

@@ -1,3 +1,4 @@
+#include "objects/gatedchild.h"
 #include "support/elementtest.h"
 
 #include <arvxml/signalpaths.h>
@@ -9,53 +10,14 @@ using namespace ArvXml;
 using ElementTest::readError;
 using ElementTest::readFrom;
 using ElementTest::written;
+using ObjectTest::block;
+using ObjectTest::HasSetVersion;
+using ObjectTest::HasVersion;
+using ObjectTest::ShowsSupportsVersion;
+using ObjectTest::words;
+using Child = ObjectTest::GatedChild;
 
 namespace {
-
-// What users may call
-
-template <typename T, typename = void>
-struct HasVersion : std::false_type {
-};
-template <typename T>
-struct HasVersion<T, std::void_t<decltype(std::declval<T&>().version())>> : std::true_type {
-};
-
-template <typename T, typename = void>
-struct HasSetVersion : std::false_type {
-};
-template <typename T>
-struct HasSetVersion<T, std::void_t<decltype(std::declval<T&>().setVersion(QString()))>> : std::true_type {
-};
-
-template <typename T, typename = void>
-struct ShowsSupportsVersion : std::false_type {
-};
-template <typename T>
-struct ShowsSupportsVersion<T, std::void_t<decltype(std::declval<const T&>().supportsVersion())>> : std::true_type {
-};
-
-// What elements look like
-
-QString block(const char* className, const QString& problems)
-{
-    return QStringLiteral("+++ in %1 Begin:\n%2\n--- in %1 End").arg(QLatin1String(className), problems);
-}
-
-QStringList words(const char* text)
-{
-    return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-}
-
-/// A child: its tag, the children after any of which it is refused, how it is read here, how it is
-/// written then, and how it is written by a new element.
-struct Child {
-    QString tag;
-    QStringList refusedAfter;
-    QString xml;
-    QString written;
-    QString byDefault;
-};
 
 /// One of the four elements.
 struct Kind {
@@ -386,6 +348,7 @@ private Q_SLOTS:
         static_assert(!ShowsSupportsVersion<XmlTxParamType>::value);
         static_assert(!ShowsSupportsVersion<XmlRxParamType>::value);
         static_assert(ShowsSupportsVersion<XmlStationInterlinkType>::value);
+        static_assert(ShowsSupportsVersion<const XmlStationInterlinkType>::value);
 
         static_assert(std::is_base_of_v<XmlElementBase, XmlSignalPathType>);
         static_assert(std::is_base_of_v<XmlElementBase, XmlTxParamType>);
