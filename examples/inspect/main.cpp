@@ -2,18 +2,17 @@
 // acceptable.
 
 #include "common/document.h"
+#include "common/kinds.h"
 
-#include <arvxml/arvxml.h>
+#include <arvxml/element.h>
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
-#include <QtCore/QXmlStreamReader>
 
 #include <algorithm>
 #include <cstdio>
 #include <memory>
-#include <vector>
 
 using namespace ArvXml;
 
@@ -24,77 +23,6 @@ enum Status {
     NotAcceptable = 1,
     NotReadable = 2, ///< no such file, no XML, or none of the protocol's documents
 };
-
-template <typename Root>
-std::unique_ptr<IXmlElement> make()
-{
-    return std::make_unique<Root>();
-}
-
-/// A kind of document. The document element's tag is free, so a kind is recognised by any of these
-/// attributes of the document element, or any of these children.
-struct Kind {
-    const char* name;
-    QStringList attributes;
-    QStringList children;
-    std::unique_ptr<IXmlElement> (*make)();
-};
-
-QStringList words(const char* text)
-{
-    return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-}
-
-/// The first kind that fits counts. A response may have an ORDER_DEF, too, so it comes first.
-const std::vector<Kind>& kinds()
-{
-    static const std::vector<Kind> table = {
-        {"response", words("type final timestamp"), words("Automatic Interactive"), make<XmlRespRoot>},
-        {"command document", words(""), words("ORDER_DEF Administrative Create Delete PropagationModel Calculate"),
-         make<XmlCmdRoot>},
-    };
-    return table;
-}
-
-/// What is seen of a document without knowing its kind.
-struct Outline {
-    QString tag; ///< empty when there is no document element
-    QStringList attributes;
-    QStringList children; ///< as far as the document is well-formed
-    QString error;
-};
-
-Outline outlineOf(const QByteArray& document)
-{
-    Outline outline;
-    QXmlStreamReader reader(document);
-    if (Document::goToRoot(reader)) {
-        outline.tag = reader.name().toString();
-        const QXmlStreamAttributes attributes = reader.attributes();
-        for (const QXmlStreamAttribute& attribute : attributes)
-            outline.attributes.append(attribute.name().toString());
-        while (reader.readNextStartElement()) {
-            const QString child = reader.name().toString();
-            if (!outline.children.contains(child))
-                outline.children.append(child);
-            reader.skipCurrentElement();
-        }
-    }
-    outline.error = reader.errorString();
-    return outline;
-}
-
-const Kind* kindOf(const Outline& outline)
-{
-    const auto overlap = [](const QStringList& some, const QStringList& others) {
-        return std::any_of(some.begin(), some.end(), [&others](const QString& one) { return others.contains(one); });
-    };
-    for (const Kind& kind : kinds()) {
-        if (overlap(kind.attributes, outline.attributes) || overlap(kind.children, outline.children))
-            return &kind;
-    }
-    return nullptr;
-}
 
 struct Settings {
     bool rewrite = false;
@@ -113,10 +41,10 @@ Status inspect(const QString& fileName, const Settings& settings)
     if (!file.open(QIODevice::ReadOnly))
         return report(NotReadable, QStringLiteral("cannot be opened: %1").arg(file.errorString()));
     const QByteArray document = file.readAll();
-    const Outline outline = outlineOf(document);
+    const Document::Outline outline = Document::outlineOf(document);
     if (outline.tag.isEmpty())
         return report(NotReadable, QStringLiteral("no document: %1").arg(outline.error));
-    const Kind* kind = kindOf(outline);
+    const Document::Kind* kind = Document::kindOf(outline);
     if (!kind)
         return report(NotReadable, QStringLiteral("<%1> is no document of the protocol").arg(outline.tag));
 

@@ -186,6 +186,18 @@ Content renewed()
     return content;
 }
 
+/// One of two optional children of which only one is kept on reading: reading it removes the other.
+template <auto Member, auto Other>
+Content readInsteadOf()
+{
+    Content content = heldIn<Member>();
+    content.read = [](XmlElementBase& owner, ElementReader& in, const QString& tag) {
+        memberOf<Other>(owner).clear();
+        memberOf<Member>(owner).obtain().processXml(in.stream(), tag);
+    };
+    return content;
+}
+
 /// Repeated children: each one read is appended, also when its reading failed.
 template <auto Member>
 Content items()
@@ -258,6 +270,12 @@ inline Content skipped()
     Content content;
     content.read = [](XmlElementBase&, ElementReader& in, const QString&) { in.skipChild(); };
     return content;
+}
+
+/// A tag that is only entered: the element reads what it holds, and its end tag, itself.
+inline Content entered()
+{
+    return {};
 }
 
 /// Calls a member function of the owner.

@@ -84,10 +84,10 @@ public:
     {
     }
 
-    /// The children in the order of writing, each with its gate.
+    /// The children in the order of writing, each with its gate. Given again, they follow those before.
     ElementForm& children(std::initializer_list<Row> rows)
     {
-        m_rows = rows;
+        m_rows.insert(m_rows.end(), rows);
         return *this;
     }
 

@@ -4,18 +4,6 @@
 
 namespace ArvXml {
 
-namespace {
-
-/// Reads one of two areas, and removes the other.
-template <auto Area, auto Other>
-void readInPlaceOf(XmlElementBase& owner, ElementReader& in, const QString& tag)
-{
-    memberOf<Other>(owner).clear();
-    memberOf<Area>(owner).obtain().processXml(in.stream(), tag);
-}
-
-} // namespace
-
 // What both have
 
 void XmlPlanArea::setAreaRect(const XmlAreaRectType& rectangle)
@@ -32,8 +20,7 @@ void XmlPlanArea::setAreaPoly(const XmlAreaPolyType& polygon)
 
 Content XmlPlanArea::areaRectChild()
 {
-    Content content = heldIn<&XmlPlanArea::m_areaRect>();
-    content.read = &readInPlaceOf<&XmlPlanArea::m_areaRect, &XmlPlanArea::m_areaPoly>;
+    Content content = readInsteadOf<&XmlPlanArea::m_areaRect, &XmlPlanArea::m_areaPoly>();
     content.isValid = [](const XmlElementBase& owner) {
         const auto& self = static_cast<const XmlPlanArea&>(owner);
         return self.hasAreaRect() != self.hasAreaPoly() && isMemberValid(self.m_areaRect)
@@ -50,9 +37,7 @@ Content XmlPlanArea::areaRectChild()
 
 Content XmlPlanArea::areaPolyChild()
 {
-    Content content = unjudged(reportedApart(heldIn<&XmlPlanArea::m_areaPoly>()));
-    content.read = &readInPlaceOf<&XmlPlanArea::m_areaPoly, &XmlPlanArea::m_areaRect>;
-    return content;
+    return unjudged(reportedApart(readInsteadOf<&XmlPlanArea::m_areaPoly, &XmlPlanArea::m_areaRect>()));
 }
 
 // A deployment area

@@ -9,7 +9,7 @@
 #include <memory>
 
 /// \file
-/// Whole documents, one case a file: commands/ and responses/ hold documents NAME.xml. Beside each stand
+/// Whole documents, one case a file: commands/, responses/ and snapshots/ hold documents NAME.xml. Beside each stand
 /// - NAME.error: the reader's error, if there is one,
 /// - NAME.problems: what syntaxError() says, if it says anything,
 /// - NAME.written: the document as the library writes it, if that differs from NAME.xml.
@@ -34,6 +34,8 @@ std::unique_ptr<IXmlElement> newRoot(const QString& folder)
 {
     if (folder == QLatin1String("commands"))
         return std::make_unique<XmlCmdRoot>();
+    if (folder == QLatin1String("snapshots"))
+        return std::make_unique<XmlArvBtType>();
     return std::make_unique<XmlRespRoot>();
 }
 
@@ -73,7 +75,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("folder");
         QTest::addColumn<QString>("path");
         int count = 0;
-        for (const char* folder : {"commands", "responses"}) {
+        for (const char* folder : {"commands", "responses", "snapshots"}) {
             const QDir dir(QStringLiteral(DOCUMENTS) + QLatin1Char('/') + QLatin1String(folder));
             const QStringList names = dir.entryList({QStringLiteral("*.xml")});
             for (const QString& name : names) {

@@ -1,0 +1,108 @@
+#pragma once
+
+#include "arvxml/element.h"
+#include "arvxml/geometry.h"
+#include "arvxml/gridresult.h"
+#include "arvxml/names.h"
+#include "arvxml/resultgrid.h"
+
+namespace ArvXml {
+
+/// The base of the result information records. A record describes a result grid that was calculated: its
+/// name, the area that it covers, the spacing of the grid and the range of its values.
+///
+/// `<Result_CEP version="1.0"><Name>...</Name><AreaPolygon>...</AreaPolygon>
+/// <ResultGrid>100</ResultGrid><Values version="1.0" unit="km"><Min>0.2</Min><Max>3</Max></Values>
+/// </Result_CEP>`, in this order, with "AreaRect" for "AreaPolygon" as the case may be; all are required.
+/// Another version than "1.0" is refused while reading.
+///
+/// Reading one kind of area removes the other; setting it does not. With both set, both are written (and
+/// the second is refused when that is read), and only the polygon is judged. With neither the problem
+/// reads "Neither AreaPolygon nor AreaRect".
+///
+/// White space inside "Values" ends the reading there (XmlGridValuesType): an indented document cannot be
+/// read.
+class ARVXML_EXPORT XmlResInfo : public XmlVersionedComposite {
+public:
+    /// The name of the result.
+    const XmlObjNameType* objName() const { return &m_objName; }
+    void setObjName(const XmlObjNameType& objName) { m_objName = objName; }
+
+    bool hasAreaPoly() const { return m_areaPoly.isPresent(); }
+    /// The polygon, null when absent.
+    const XmlAreaPolyType* areaPoly() const { return m_areaPoly.get(); }
+    void setAreaPoly(const XmlAreaPolyType& polygon) { m_areaPoly.set(polygon); }
+
+    bool hasAreaRect() const { return m_areaRect.isPresent(); }
+    /// The rectangle, null when absent.
+    const XmlAreaRectType* areaRect() const { return m_areaRect.get(); }
+    void setAreaRect(const XmlAreaRectType& rectangle) { m_areaRect.set(rectangle); }
+
+    /// The spacing of the grid.
+    const XmlResultGridType* resultGrid() const { return &m_resultGrid; }
+    void setResultGrid(const XmlResultGridType& grid) { m_resultGrid = grid; }
+
+    /// The range of the grid's values.
+    const XmlGridValuesType* gridValues() const { return &m_gridValues; }
+    void setGridValues(const XmlGridValuesType& values) { m_gridValues = values; }
+
+protected:
+    using XmlVersionedComposite::XmlVersionedComposite;
+
+    /// The form that all records have.
+    static ElementForm commonForm();
+    const ElementForm& form() const override;
+
+private:
+    XmlObjNameType m_objName;
+    OptionalChild<XmlAreaPolyType> m_areaPoly;
+    OptionalChild<XmlAreaRectType> m_areaRect;
+    XmlResultGridType m_resultGrid;
+    XmlGridValuesType m_gridValues;
+};
+
+/// A result of the order "CEP": circular error probable.
+class ARVXML_EXPORT XmlResInfo_Cep_Type : public XmlResInfo {
+public:
+    XmlResInfo_Cep_Type();
+};
+
+/// A result of the order "DetectionProbability".
+class ARVXML_EXPORT XmlResInfo_DetectProb_Type : public XmlResInfo {
+public:
+    XmlResInfo_DetectProb_Type();
+};
+
+/// A result of the order "DFcoverage": coverage by direction finders.
+class ARVXML_EXPORT XmlResInfo_DfCov_Type : public XmlResInfo {
+public:
+    XmlResInfo_DfCov_Type();
+};
+
+/// A result of the order "FindPossibleSites".
+class ARVXML_EXPORT XmlResInfo_FindSites_Type : public XmlResInfo {
+public:
+    XmlResInfo_FindSites_Type();
+};
+
+/// A result of the order "BestSensorCov": which sensor serves best. It may have a comment behind the values:
+/// `<Comment>...</Comment>`, judged by isValid(), but not reported by syntaxError().
+///
+/// Messages show it under the name of another class, XmlResInfo_DetectProb_Type.
+class ARVXML_EXPORT XmlResInfo_BestSensor_Type : public XmlResInfo {
+public:
+    XmlResInfo_BestSensor_Type();
+
+    bool hasComment() const { return m_comment.isPresent(); }
+    /// The comment, null when absent. Reading replaces the one held.
+    const XmlObjNameType* comment() const { return m_comment.get(); }
+    void setComment(const XmlObjNameType& comment) { m_comment.set(comment); }
+
+protected:
+    const ElementForm& form() const override;
+
+private:
+    OptionalChild<XmlObjNameType> m_comment;
+};
+
+} // namespace ArvXml
