@@ -47,7 +47,7 @@ public:
     void setGridValues(const XmlGridValuesType& values) { m_gridValues = values; }
 
 protected:
-    using XmlVersionedComposite::XmlVersionedComposite;
+    explicit XmlResInfo(const QString& className);
 
     /// The form that all records have.
     static ElementForm commonForm();

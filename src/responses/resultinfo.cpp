@@ -32,6 +32,11 @@ Content areaChoice()
 
 // What all records have
 
+XmlResInfo::XmlResInfo(const QString& className)
+    : XmlVersionedComposite(className)
+{
+}
+
 ElementForm XmlResInfo::commonForm()
 {
     using Self = XmlResInfo;
