@@ -79,17 +79,18 @@ XmlVersioned::XmlVersioned()
 
 bool XmlVersioned::supportsVersion() const
 {
-    return m_version == supportedVersion();
+    return isSameText(m_version, supportedVersion());
 }
 
 void XmlVersioned::restoreVersion()
 {
-    m_version = supportedVersion();
+    if (!supportsVersion())
+        m_version = supportedVersion();
 }
 
 void XmlVersioned::readVersion(ElementReader& in)
 {
-    in.takeAttribute(versionAttribute(), m_version);
+    keepText(in.attribute(versionAttribute()), m_version);
 }
 
 void XmlVersioned::refuseOtherVersions(ElementReader& in) const
@@ -116,13 +117,17 @@ void XmlComposite::processXml(QXmlStreamReader& reader, const QString& tagName)
     ElementReader in(*this, reader, tagName, form.m_wording);
     Marks read = openElement(in);
 
+    // Children come in the order of the form, as a rule: the row of the last one is looked at first.
+    const Row* row = form.m_rows.data();
     const auto onStart = [&] {
-        for (const Row& row : form.m_rows) {
-            if (reader.name() == row.tag && row.isOpen(read)) {
-                read |= row.sets;
-                row.content.read(*this, in, row.tag);
+        const auto name = reader.name();
+        for (auto left = form.m_rows.size(); left > 0; --left) {
+            if (isSameText(name, row->tag) && row->isOpen(read)) {
+                read |= row->sets;
+                row->content.read(*this, in, row->tag);
                 return;
             }
+            row = row == &form.m_rows.back() ? &form.m_rows.front() : row + 1;
         }
         in.refuseStart();
     };
@@ -132,7 +137,7 @@ void XmlComposite::processXml(QXmlStreamReader& reader, const QString& tagName)
             return true;
         }
         for (const InnerEnd& end : form.m_innerEnds) {
-            if (reader.name() == end.tag && (read & end.needs) == end.needs) {
+            if (isSameText(reader.name(), end.tag) && (read & end.needs) == end.needs) {
                 read = (read & ~end.clears) | end.sets;
                 end.effect(*this);
                 return false;

@@ -27,7 +27,7 @@ struct Row {
 
     Row(const char* name, Marks marks, Marks refusing, const Content& held, Marks needed = 0)
         : tag(QString::fromLatin1(name))
-        , writtenTag(QString::fromLatin1(held.writtenTag ? held.writtenTag : name))
+        , writtenTag(held.writtenTag ? QString::fromLatin1(held.writtenTag) : tag)
         , sets(marks)
         , refusedAfter(refusing)
         , needs(needed)

@@ -4,6 +4,7 @@ namespace ArvXml {
 
 void ElementReader::fail(const QString& message)
 {
+    m_hasFailed = true;
     m_element.setReaderError(m_reader, message);
 }
 
@@ -14,25 +15,29 @@ bool ElementReader::requireStartTag()
     return m_atStartTag;
 }
 
-bool ElementReader::takeAttribute(const QString& name, QString& value)
+const QXmlStreamAttribute* ElementReader::attributeNamed(const QString& name)
 {
-    // The copy of the attributes must be gone before the next token is read: the stream would
-    // otherwise have to detach its own.
-    const QXmlStreamAttributes attributes = m_reader.attributes();
-    const auto text = attributes.value(name);
-    if (text.isEmpty())
-        return false;
-    if (text != value)
-        value = text.toString();
-    return true;
+    if (!m_attributes)
+        m_attributes = m_reader.attributes();
+    for (auto attribute = m_attributes->constBegin(); attribute != m_attributes->constEnd(); ++attribute) {
+        if (isSameText(attribute->qualifiedName(), name))
+            return attribute;
+    }
+    return nullptr;
 }
 
-bool ElementReader::requireAttribute(const QString& name, QString& value)
+StreamText ElementReader::attribute(const QString& name)
 {
-    const bool taken = takeAttribute(name, value);
-    if (!taken)
+    const QXmlStreamAttribute* attribute = attributeNamed(name);
+    return attribute ? attribute->value() : StreamText();
+}
+
+StreamText ElementReader::requireAttribute(const QString& name)
+{
+    const StreamText text = attribute(name);
+    if (text.isEmpty())
         fail(QStringLiteral("Missing attribute: \"%1\"").arg(name));
-    return taken;
+    return text;
 }
 
 void ElementReader::refuseAttribute(const QString& name)

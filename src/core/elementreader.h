@@ -1,9 +1,12 @@
 #pragma once
 
 #include "arvxml/element.h"
+#include "core/texts.h"
 
 #include <QtCore/QString>
 #include <QtCore/QXmlStreamReader>
+
+#include <optional>
 
 namespace ArvXml {
 
@@ -20,6 +23,9 @@ constexpr Wording leafWording = {"Unexpected token \"StartElement\"", "Unexpecte
 constexpr Wording listWording = {"Unexpected element \"%1\"", "Unexpected token \"EndElement\""};
 /// Composites that name the tag either way.
 constexpr Wording compositeWording = {"Unexpected token \"StartElement\": %1", "Unexpected token \"EndElement\": %1"};
+
+/// A piece of text that belongs to the stream.
+using StreamText = decltype(QXmlStreamReader().text());
 
 /// The names of the attributes that several elements have.
 inline QString versionAttribute()
@@ -58,13 +64,11 @@ public:
     /// Whether the stream stood on a start tag when the reading began; raises an error if not.
     bool requireStartTag();
 
-    /// Takes the attribute into \a value when it is present and not empty. Returns whether it was.
-    bool takeAttribute(const QString& name, QString& value);
-    /// The same, and raises an error when there was nothing to take.
-    bool requireAttribute(const QString& name, QString& value);
-    bool hasAttribute(const QString& name) const { return m_reader.attributes().hasAttribute(name); }
-    /// The attribute's text, empty when absent.
-    QString attribute(const QString& name) const { return m_reader.attributes().value(name).toString(); }
+    bool hasAttribute(const QString& name) { return attributeNamed(name) != nullptr; }
+    /// The attribute's text, empty when absent; good until the next token is read.
+    StreamText attribute(const QString& name);
+    /// The same, and raises an error when it is empty.
+    StreamText requireAttribute(const QString& name);
     /// Raises the error of an attribute whose text means nothing.
     void refuseAttribute(const QString& name);
 
@@ -79,14 +83,17 @@ public:
     void refuseEnd() { refuseTag(m_wording.end); }
 
     /// Whether the stream stands on a tag of the element's own name.
-    bool atOwnTag() const { return m_reader.name() == m_tagName; }
+    bool atOwnTag() const { return isSameText(m_reader.name(), m_tagName); }
 
     /// Goes through the tokens of the element until \a onEnd says that it is complete, or an error
     /// ends the reading.
     template <typename OnStart, typename OnEnd, typename OnCharacters>
     void readTokens(OnStart onStart, OnEnd onEnd, OnCharacters onCharacters)
     {
-        while (!m_reader.atEnd() && !m_reader.hasError()) {
+        m_attributes.reset();
+        if (m_reader.atEnd() || m_reader.hasError())
+            return;
+        while (true) {
             switch (m_reader.readNext()) {
             case QXmlStreamReader::StartElement:
                 onStart();
@@ -97,11 +104,15 @@ public:
                 break;
             case QXmlStreamReader::Characters:
                 onCharacters();
-                break;
+                if (m_hasFailed)
+                    return;
+                continue; // nobody but this element can have raised an error
             default:
                 refuseOtherToken();
                 break;
             }
+            if (m_reader.hasError())
+                return;
         }
     }
 
@@ -120,6 +131,7 @@ public:
     }
 
 private:
+    const QXmlStreamAttribute* attributeNamed(const QString& name);
     void refuseTag(const char* message);
     void refuseOtherToken();
 
@@ -128,6 +140,10 @@ private:
     const QString m_tagName; // a copy: the caller's may be a text of the very element that is read
     const Wording& m_wording;
     const bool m_atStartTag;
+    bool m_hasFailed = false;
+    /// A copy of the start tag's attributes while they are looked at. It must be gone before the next token
+    /// is read: the stream would otherwise have to detach its own.
+    std::optional<QXmlStreamAttributes> m_attributes;
 };
 
 } // namespace ArvXml

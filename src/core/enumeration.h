@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/texts.h"
+
 #include <QtCore/QString>
 
 #include <initializer_list>
@@ -17,7 +19,7 @@ public:
     int value(const Text& text) const
     {
         for (std::size_t i = 1; i < m_texts.size(); ++i) {
-            if (text == m_texts[i])
+            if (isSameText(text, m_texts[i]))
                 return static_cast<int>(i);
         }
         return 0;

@@ -102,8 +102,7 @@ XmlNumCoordType::XmlNumCoordType()
 quint32 XmlNumCoordType::openElement(ElementReader& in)
 {
     if (in.requireStartTag()) {
-        QString text;
-        if (in.requireAttribute(numberAttribute(), text)) {
+        if (const auto text = in.requireAttribute(numberAttribute()); !text.isEmpty()) {
             bool ok = false;
             m_number = toInteger(text, &ok);
             if (!ok)

@@ -17,7 +17,7 @@ struct TextRules {
 void XmlText::processXml(QXmlStreamReader& reader, const QString& tagName)
 {
     ElementReader in(*this, reader, tagName, leafWording);
-    in.readLeaf([this](const auto& text) { m_text = text.toString(); });
+    in.readLeaf([this](const auto& text) { m_text = keptText(text); });
 }
 
 void XmlText::produceXml(QXmlStreamWriter& writer, const QString& tagName) const

@@ -48,7 +48,7 @@ const FrequencyUnit* frequencyUnit(const QString& unit)
         {QStringLiteral("GHz"), 1000.0, 0.001},
     };
     for (const FrequencyUnit& known : units) {
-        if (known.unit == unit)
+        if (isSameText(known.unit, unit))
             return &known;
     }
     return nullptr;
@@ -66,16 +66,17 @@ XmlQuantity::XmlQuantity(const QString& className, const QuantityRules& rules)
 
 void XmlQuantity::processXml(QXmlStreamReader& reader, const QString& tagName)
 {
+    const QuantityRules& rules = this->rules();
     ElementReader in(*this, reader, tagName, leafWording);
     openElement(in);
     in.readLeaf([&](const auto& text) {
         bool ok = false;
-        const double number = rules().numbers == QuantityRules::Real ? toReal(text, &ok) : toInteger(text, &ok);
+        const double number = rules.numbers == QuantityRules::Real ? toReal(text, &ok) : toInteger(text, &ok);
         if (ok) {
             takeNumber(number);
         } else {
             in.fail(QStringLiteral("Illegal value (must be numeric)"));
-            m_value = rules().fallback;
+            m_value = rules.fallback;
         }
     });
 }
@@ -164,7 +165,7 @@ void XmlReadUnitQuantity::openElement(ElementReader& in)
 {
     restoreVersion();
     if (in.requireStartTag()) {
-        in.requireAttribute(unitAttribute(), m_unit);
+        keepText(in.requireAttribute(unitAttribute()), m_unit);
         readVersion(in);
     }
 }
@@ -176,7 +177,7 @@ const QString* XmlReadUnitQuantity::writtenUnit() const
 
 bool XmlReadUnitQuantity::isUnitValid() const
 {
-    return m_unit == rules().unit;
+    return isSameText(m_unit, rules().unit);
 }
 
 // The nine quantities, each with its rules:

@@ -2,6 +2,7 @@
 
 #include "core/elementform.h"
 #include "core/enumeration.h"
+#include "core/times.h"
 
 namespace ArvXml {
 
@@ -61,7 +62,7 @@ quint32 XmlAutoRespType::openElement(ElementReader& in)
 
 void XmlAutoRespType::takeEstimatedTime(const QString& text, ElementReader& in)
 {
-    m_estimatedTime = QDateTime::fromString(text, Qt::ISODate);
+    m_estimatedTime = toDateTime(text);
     if (!m_estimatedTime.isValid())
         in.fail(QStringLiteral("Illegal dateTime format"));
 }

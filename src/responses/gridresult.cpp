@@ -229,9 +229,9 @@ quint32 XmlGridValuesType::openElement(ElementReader& in)
     // Unlike elsewhere, what the tag does not say stays as it was, and what it says counts even when
     // it is empty.
     if (in.hasAttribute(versionAttribute()))
-        setVersion(in.attribute(versionAttribute()));
+        setVersion(keptText(in.attribute(versionAttribute())));
     if (in.hasAttribute(unitAttribute()))
-        setUnit(in.attribute(unitAttribute()));
+        setUnit(keptText(in.attribute(unitAttribute())));
     if (lacksAttributes())
         in.fail(QStringLiteral("Missing mandatory attributes"));
     refuseOtherVersions(in);

@@ -2,6 +2,7 @@
 
 #include "core/elementform.h"
 #include "core/enumeration.h"
+#include "core/times.h"
 
 namespace ArvXml {
 
@@ -27,8 +28,23 @@ const EnumerationTexts& typeTexts()
 
 XmlRespRoot::XmlRespRoot()
     : XmlComposite(QStringLiteral("XmlRespRoot"))
-    , m_timestamp(QDateTime::currentDateTime())
+    , m_timestamp(QDateTime::currentDateTimeUtc())
 {
+}
+
+const QDateTime& XmlRespRoot::timestamp() const
+{
+    if (m_isMade) {
+        m_timestamp = m_timestamp.toLocalTime();
+        m_isMade = false;
+    }
+    return m_timestamp;
+}
+
+void XmlRespRoot::setTimestamp(const QDateTime& timestamp)
+{
+    m_timestamp = timestamp;
+    m_isMade = false;
 }
 
 const ElementForm& XmlRespRoot::form() const
@@ -52,9 +68,9 @@ quint32 XmlRespRoot::openElement(ElementReader& in)
     m_type = static_cast<RespType>(typeTexts().value(in.attribute(typeAttribute())));
     if (m_type == RespUndefined)
         in.refuseAttribute(typeAttribute());
-    if (!takeFinal(in.attribute(finalAttribute())))
+    if (!takeFinal(keptText(in.attribute(finalAttribute()))))
         in.refuseAttribute(finalAttribute());
-    m_timestamp = QDateTime::fromString(in.attribute(timestampAttribute()), Qt::ISODate);
+    setTimestamp(toDateTime(keptText(in.attribute(timestampAttribute()))));
     if (!m_timestamp.isValid())
         in.refuseAttribute(timestampAttribute());
     return 0;
@@ -76,7 +92,7 @@ void XmlRespRoot::writeAttributes(QXmlStreamWriter& writer) const
 {
     writer.writeAttribute(typeAttribute(), typeTexts().text(m_type));
     writer.writeAttribute(finalAttribute(), m_final ? QStringLiteral("true") : QStringLiteral("false"));
-    writer.writeAttribute(timestampAttribute(), m_timestamp.toString(Qt::ISODate));
+    writer.writeAttribute(timestampAttribute(), timestamp().toString(Qt::ISODate));
 }
 
 bool XmlRespRoot::isValid() const
@@ -117,7 +133,8 @@ void XmlRespRoot::reset()
 {
     m_type = RespUndefined;
     m_final = true;
-    m_timestamp = QDateTime::currentDateTime();
+    m_timestamp = QDateTime::currentDateTimeUtc();
+    m_isMade = true;
     XmlComposite::reset();
 }
 

@@ -40,7 +40,7 @@ Marks takePath(XmlElementBase& owner, ElementReader& in, Marks read)
 {
     if ((read & InPath) == 0)
         return 0;
-    static_cast<XmlArvBtType&>(owner).setScreenshotPath(in.stream().text().toString());
+    static_cast<XmlArvBtType&>(owner).setScreenshotPath(keptText(in.stream().text()));
     return PathRead;
 }
 

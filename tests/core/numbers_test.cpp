@@ -1,0 +1,441 @@
+#include "core/numbers.h"
+#include "core/times.h"
+
+#include <QtTest/QtTest>
+
+#include <cmath>
+#include <cstring>
+#include <limits>
+#include <random>
+
+/// \file
+/// Numbers and times are read and written by short ways of our own. Whatever the input, they must give what Qt's give:
+/// the same bits, the same text, the same answer whether it is one.
+
+using namespace ArvXml;
+
+namespace {
+
+using Limits = std::numeric_limits<double>;
+
+constexpr NumberFormat formats[] = {{'f', 0}, {'f', 1}, {'f', 2},  {'f', 3}, {'f', 4},
+                                    {'f', 6}, {'f', 9}, {'f', 15}, {'g', 6}};
+
+quint64 bitsOf(double value)
+{
+    quint64 bits = 0;
+    std::memcpy(&bits, &value, sizeof bits);
+    return bits;
+}
+
+double ofBits(quint64 bits)
+{
+    double value = 0;
+    std::memcpy(&value, &bits, sizeof value);
+    return value;
+}
+
+/// Counts disagreements and shows the first one: a million comparisons by QCOMPARE would take minutes.
+class Verdict {
+public:
+    template <typename What>
+    void expect(bool agrees, What what)
+    {
+        ++m_checks;
+        if (!agrees && m_failures++ == 0)
+            m_first = what().toUtf8();
+    }
+    int checks() const { return m_checks; }
+    const char* firstFailure() const { return m_first.constData(); }
+    bool isGood() const { return m_failures == 0; }
+
+private:
+    int m_checks = 0;
+    int m_failures = 0;
+    QByteArray m_first;
+};
+
+void compareWritten(Verdict& verdict, double value, NumberFormat format)
+{
+    const QString text = numberText(value, format);
+    verdict.expect(text == QString::number(value, format.format, format.digits), [&] {
+        return QStringLiteral("%1 in %2%3 is written %4")
+            .arg(QString::number(value, 'g', 17), QString(QLatin1Char(format.format)))
+            .arg(format.digits)
+            .arg(text);
+    });
+}
+
+void compareWritten(Verdict& verdict, double value)
+{
+    for (const NumberFormat& format : formats) {
+        compareWritten(verdict, value, format);
+        compareWritten(verdict, -value, format);
+    }
+}
+
+void compareRead(Verdict& verdict, const QString& text)
+{
+    bool ok = false;
+    bool expectedOk = false;
+    const double real = toReal(text, &ok);
+    const double expectedReal = text.toDouble(&expectedOk);
+    const bool sameNumber = bitsOf(real) == bitsOf(expectedReal) || (std::isnan(real) && std::isnan(expectedReal));
+    verdict.expect(ok == expectedOk && sameNumber,
+                   [&] { return QStringLiteral("\"%1\" is read as a real number").arg(text); });
+    const int integer = toInteger(text, &ok);
+    const int expectedInteger = text.toInt(&expectedOk, 10);
+    verdict.expect(ok == expectedOk && integer == expectedInteger,
+                   [&] { return QStringLiteral("\"%1\" is read as an integer").arg(text); });
+}
+
+void compareTime(Verdict& verdict, const QString& text)
+{
+    const QDateTime time = toDateTime(text);
+    const QDateTime expected = QDateTime::fromString(text, Qt::ISODate);
+    verdict.expect(time.isValid() == expected.isValid() && time == expected && time.timeSpec() == expected.timeSpec(),
+                   [&] { return QStringLiteral("\"%1\" is read as a time").arg(text); });
+}
+
+} // namespace
+
+class NumbersTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void chosenNumbersWritten();
+    void tiesWritten();
+    void powersWritten();
+    void randomNumbersWritten();
+    void literals();
+    void theShortWayIsTaken();
+    void theShortWayIsLeft_data();
+    void theShortWayIsLeft();
+    void chosenTextsRead();
+    void randomNumbersRead();
+    void longNumbersRead();
+    void randomTextsRead();
+    void partOfText();
+    void chosenTimesRead();
+    void randomTimesRead();
+};
+
+void NumbersTest::chosenNumbersWritten()
+{
+    Verdict verdict;
+    const double chosen[] = {0.0,
+                             Limits::min(),
+                             Limits::denorm_min(),
+                             Limits::max(),
+                             Limits::infinity(),
+                             Limits::quiet_NaN(),
+                             Limits::epsilon(),
+                             -999.999,
+                             -99999.999,
+                             -99999.989,
+                             999999.5,
+                             999999.4999999999,
+                             99999.95,
+                             0.99999951,
+                             0.9999995,
+                             0.999999999999999,
+                             0.9999999999999999,
+                             9007199254740991.0,
+                             9007199254740992.0,
+                             9007199254740993.0,
+                             4503599627370495.5,
+                             4503599627370496.5,
+                             2251799813685247.75,
+                             123456.5,
+                             12345.65,
+                             1e15,
+                             1e16,
+                             1e22,
+                             1e23,
+                             1e300,
+                             1e-4,
+                             1e-5,
+                             1e-15,
+                             5e-16,
+                             4.9999999999999e-16};
+    for (const double value : chosen) {
+        compareWritten(verdict, value);
+        for (int digits = 0; digits <= 20; ++digits) {
+            compareWritten(verdict, value, {'f', digits});
+            compareWritten(verdict, -value, {'g', digits});
+        }
+    }
+    QVERIFY2(verdict.isGood(), verdict.firstFailure());
+}
+
+void NumbersTest::tiesWritten()
+{
+    // Exactly between two texts: multiples of a half, a quarter ... of the last decimal.
+    Verdict verdict;
+    for (int shift = 1; shift <= 20; ++shift) {
+        for (int i = 1; i <= 3000; ++i)
+            compareWritten(verdict, std::ldexp(i, -shift));
+    }
+    QVERIFY2(verdict.isGood(), verdict.firstFailure());
+}
+
+void NumbersTest::powersWritten()
+{
+    // Powers of two and of ten, and their neighbours.
+    Verdict verdict;
+    for (int exponent = -1074; exponent <= 1023; ++exponent) {
+        const double power = std::ldexp(1.0, exponent);
+        for (const double value : {power, std::nextafter(power, 0.0), std::nextafter(power, Limits::max())})
+            compareWritten(verdict, value);
+    }
+    for (int exponent = -20; exponent <= 25; ++exponent) {
+        const double power = QStringLiteral("1e%1").arg(exponent).toDouble();
+        for (const double value : {power, std::nextafter(power, 0.0), std::nextafter(power, Limits::max())})
+            compareWritten(verdict, value);
+    }
+    QVERIFY2(verdict.isGood(), verdict.firstFailure());
+}
+
+void NumbersTest::randomNumbersWritten()
+{
+    std::mt19937_64 random(20240305);
+    Verdict verdict;
+    for (int i = 0; i < 20000; ++i) {
+        const quint64 bits = random();
+        compareWritten(verdict, ofBits(bits)); // of every size, infinities and NaN among them
+        compareWritten(verdict, static_cast<double>(bits % 2000000000) / 1e6);
+        compareWritten(verdict, static_cast<double>(bits % 2000000) / 1000);
+        compareWritten(verdict, std::ldexp(static_cast<double>(bits >> 11), -static_cast<int>(random() % 120)));
+    }
+    QVERIFY(verdict.checks() > 1400000);
+    QVERIFY2(verdict.isGood(), verdict.firstFailure());
+}
+
+void NumbersTest::literals()
+{
+    // Not by comparison alone: some texts as they stand.
+    QCOMPARE(numberText(8.5, {'f', 6}), QStringLiteral("8.500000"));
+    QCOMPARE(numberText(-999.999, {'f', 6}), QStringLiteral("-999.999000"));
+    QCOMPARE(numberText(-95.5, {'f', 15}), QStringLiteral("-95.500000000000000"));
+    QCOMPARE(numberText(0.1, {'f', 15}), QStringLiteral("0.100000000000000"));
+    QCOMPARE(numberText(99.9999999, {'f', 6}), QStringLiteral("100.000000"));
+    QCOMPARE(numberText(2.5, {'f', 0}), QStringLiteral("3"));
+    QCOMPARE(numberText(25, {'g', 6}), QStringLiteral("25"));
+    QCOMPARE(numberText(12.5, {'g', 6}), QStringLiteral("12.5"));
+    QCOMPARE(numberText(1234567, {'g', 6}), QStringLiteral("1.23457e+06"));
+    QCOMPARE(numberText(0.000012345678, {'g', 6}), QStringLiteral("1.23457e-05"));
+    QCOMPARE(numberText(-2147483647 - 1), QStringLiteral("-2147483648"));
+}
+
+void NumbersTest::theShortWayIsTaken()
+{
+    // What the protocol's own numbers look like must not go the long way.
+    const auto real = [](const QString& text) { return plainReal(text.data(), text.data() + text.size()); };
+    for (const char* text : {"0", "8.5", "-8.500000", "47.379444", "25.000000000000000", "-95.500000000000000",
+                             "-999.999000", "123456789012345", "9007199254740992", "0.0000000000000001",
+                             "-114.099999999999994", "9999999999999999999", "9007199254740993", "9007199254740992.5"})
+        QVERIFY2(real(QString::fromLatin1(text)).has_value(), text);
+    const auto integer = [](const QString& text) { return plainInteger(text.data(), text.data() + text.size()); };
+    for (const char* text : {"0", "7", "-7", "007", "123456789", "-12345678"})
+        QVERIFY2(integer(QString::fromLatin1(text)).has_value(), text);
+}
+
+void NumbersTest::theShortWayIsLeft_data()
+{
+    QTest::addColumn<QString>("text");
+    for (const char* text :
+         {"", "-", "+1", " 1", "1 ", ".5", "5.", "-.5", "--1", "1..2", "1e5", "inf", "nan", "0x10", "1,5",
+          "99999999999999999999", "18446744073709551616", "12345678901.2345678901", "0.00000000000000000000001"})
+        QTest::newRow(text) << QString::fromLatin1(text);
+}
+
+void NumbersTest::theShortWayIsLeft()
+{
+    QFETCH(QString, text);
+    QVERIFY(!plainReal(text.data(), text.data() + text.size()));
+    Verdict verdict;
+    compareRead(verdict, text);
+    QVERIFY2(verdict.isGood(), verdict.firstFailure());
+}
+
+void NumbersTest::chosenTextsRead()
+{
+    Verdict verdict;
+    for (const char* text : {"-0",
+                             "-0.0",
+                             "00",
+                             "-00.0",
+                             "0000000000000000000000000001.5",
+                             "0.00000000000000000000000000000000000001",
+                             "-0.0000000000000000000000000000000",
+                             "9007199254740991.0",
+                             "9007199254740993.0",
+                             "900719925474099.25",
+                             "9999999999999999999",
+                             "99999999999999999990",
+                             "0.9999999999999999999",
+                             "123456789",
+                             "999999999",
+                             "1000000000",
+                             "2147483647",
+                             "2147483648",
+                             "-2147483648",
+                             "-2147483649",
+                             "1e400",
+                             "-1e-400",
+                             "1e22",
+                             "1d5",
+                             "1f",
+                             "infinity",
+                             "\xd9\xa3",
+                             "1.\xd9\xa3",
+                             "1\xc2\xa0",
+                             "\t7\n",
+                             "1 000",
+                             "1'000",
+                             "0b1",
+                             "1e",
+                             "1e+",
+                             "\xef\xbc\x91"})
+        compareRead(verdict, QString::fromUtf8(text));
+    compareRead(verdict, QString(QLatin1Char('1')) + QChar(0) + QLatin1Char('2'));
+    compareRead(verdict, QString(100000, QLatin1Char('0')) + QStringLiteral("7"));
+    compareRead(verdict, QStringLiteral("7.") + QString(100000, QLatin1Char('0')));
+    QVERIFY2(verdict.isGood(), verdict.firstFailure());
+}
+
+void NumbersTest::randomNumbersRead()
+{
+    std::mt19937_64 random(7);
+    Verdict verdict;
+    for (int i = 0; i < 180000; ++i) {
+        const quint64 bits = random();
+        const double value = i % 2 == 0
+            ? static_cast<double>(bits % 2000000000) / 1e6
+            : std::ldexp(static_cast<double>(bits >> 11), -static_cast<int>(random() % 100));
+        compareRead(verdict, QString::number((bits & 1) != 0 ? value : -value, 'f', static_cast<int>(random() % 19)));
+        compareRead(verdict,
+                    QString::number(bits % 10000000000000) + QLatin1Char('.') + QString::number(random() % 1000000));
+        compareRead(verdict, QString::number(ofBits(bits), 'g', 17));
+    }
+    QVERIFY(verdict.checks() > 1000000);
+    QVERIFY2(verdict.isGood(), verdict.firstFailure());
+}
+
+void NumbersTest::longNumbersRead()
+{
+    // Sixteen to twenty digits: more than a real number holds, many of them halfway between two.
+    std::mt19937_64 random(17);
+    Verdict verdict;
+    for (int i = 0; i < 100000; ++i) {
+        QString text = QString::number(random() >> (random() % 12));
+        if (i % 2 == 0)
+            text = QString::number(((random() >> 10) | (quint64(1) << 53)) * 2 + 1); // a tie
+        compareRead(verdict, text);
+        compareRead(verdict,
+                    QString(text).insert(1 + static_cast<int>(random() % quint64(text.size())), QLatin1Char('.')));
+        // A real number and half, a quarter ... of its last bit
+        const double value =
+            std::ldexp(static_cast<double>((random() >> 11) | (quint64(1) << 52)), -static_cast<int>(random() % 8));
+        const QString exact = QString::number(value, 'f', 8);
+        compareRead(verdict, exact);
+        compareRead(verdict, exact + QLatin1Char('5'));
+    }
+    QVERIFY2(verdict.isGood(), verdict.firstFailure());
+}
+
+void NumbersTest::randomTextsRead()
+{
+    constexpr QLatin1String alphabet("0123456789.-+ e,0123456789.");
+    std::mt19937_64 random(11);
+    Verdict verdict;
+    for (int i = 0; i < 500000; ++i) {
+        QString text;
+        for (quint64 length = random() % 9; length > 0; --length)
+            text.append(alphabet[static_cast<int>(random() % 27)]);
+        compareRead(verdict, text);
+    }
+    QVERIFY2(verdict.isGood(), verdict.firstFailure());
+}
+
+void NumbersTest::partOfText()
+{
+    // The stream hands out parts of longer texts; what stands around them must not count.
+    const QString text = QStringLiteral("9912.59");
+    const auto part = text.midRef(2, 4);
+    bool ok = false;
+    QCOMPARE(toReal(part, &ok), 12.5);
+    QVERIFY(ok);
+    QCOMPARE(toInteger(text.midRef(1, 2), &ok), 91);
+    QVERIFY(ok);
+}
+
+void NumbersTest::chosenTimesRead()
+{
+    Verdict verdict;
+    for (const char* text : {"2024-03-05T14:07:09",
+                             "2024-02-29T00:00:00",
+                             "2023-02-29T00:00:00",
+                             "2024-03-05T24:00:00",
+                             "2024-03-05T23:59:60",
+                             "2024-03-05T25:07:09",
+                             "2024-13-05T14:07:09",
+                             "2024-00-05T14:07:09",
+                             "0000-03-05T14:07:09",
+                             "0001-01-01T00:00:00",
+                             "9999-12-31T23:59:59",
+                             "2024-03-05 14:07:09",
+                             "2024-03-05t14:07:09",
+                             "2024-03-05T14:07:09Z",
+                             "2024-03-05T14:07:09+02:00",
+                             "2024-03-05T14:07:09.123",
+                             "2024-03-05T14:07",
+                             "2024-03-05",
+                             "",
+                             "now",
+                             "2024-03-05T14:07:0x",
+                             "2024-3-05T14:07:009",
+                             "-024-03-05T14:07:09",
+                             "2024-03-05T14-07-09",
+                             "2024/03/05T14:07:09",
+                             "2024-03-31T02:30:00",
+                             "2024-10-27T02:30:00",
+                             " 024-03-05T14:07:09",
+                             "2024-03-05T+4:07:09"})
+        compareTime(verdict, QString::fromLatin1(text));
+    QVERIFY2(verdict.isGood(), verdict.firstFailure());
+    QCOMPARE(toDateTime(QStringLiteral("2024-03-05T14:07:09")), QDateTime(QDate(2024, 3, 5), QTime(14, 7, 9)));
+}
+
+void NumbersTest::randomTimesRead()
+{
+    // In a zone with summer time: some hours do not exist.
+    const QByteArray zone = qgetenv("TZ");
+    qputenv("TZ", "CET-1CEST,M3.5.0,M10.5.0/3");
+    std::mt19937_64 random(13);
+    const auto digits = [&random](quint64 below, int width) {
+        return QStringLiteral("%1").arg(random() % below, width, 10, QLatin1Char('0'));
+    };
+    Verdict verdict;
+    for (int i = 0; i < 100000; ++i) {
+        QString text = QStringLiteral("%1-%2-%3T%4:%5:%6")
+                           .arg(digits(i % 2 == 0 ? 10000 : 2100, 4), digits(14, 2), digits(33, 2), digits(26, 2),
+                                digits(62, 2), digits(62, 2));
+        if (i % 16 == 0)
+            text[static_cast<int>(random() % 19)] = QLatin1Char("0T:- Z"[random() % 6]);
+        compareTime(verdict, text);
+    }
+    for (int minute = 0; minute < 24 * 60; ++minute) // the day on which an hour is missing
+        compareTime(verdict,
+                    QStringLiteral("2024-03-31T%1:%2:00")
+                        .arg(minute / 60, 2, 10, QLatin1Char('0'))
+                        .arg(minute % 60, 2, 10, QLatin1Char('0')));
+    if (zone.isNull())
+        qunsetenv("TZ");
+    else
+        qputenv("TZ", zone);
+    QVERIFY2(verdict.isGood(), verdict.firstFailure());
+}
+
+QTEST_APPLESS_MAIN(NumbersTest)
+#include "numbers_test.moc"
