@@ -25,6 +25,14 @@ bool goToRoot(QXmlStreamReader& reader)
     return false;
 }
 
+QString ReadError::withPlace() const
+{
+    const QString place = QStringLiteral("(line %1, column %2)").arg(line).arg(column);
+    if (text.startsWith(QLatin1String("in ")) && text.contains(place))
+        return text;
+    return QStringLiteral("at line %1, column %2: %3").arg(QString::number(line), QString::number(column), text);
+}
+
 ReadError read(const QByteArray& document, ArvXml::IXmlElement& root)
 {
     QXmlStreamReader reader(document);

@@ -23,6 +23,10 @@ struct ReadError {
     qint64 column = 0;
 
     explicit operator bool() const { return !text.isEmpty(); }
+
+    /// The text behind its place: "at line 3, column 7: TEXT". The errors of the library's elements begin
+    /// with their place, "in CLASS (line 3, column 7): ...", and are returned as they are.
+    QString withPlace() const;
 };
 
 /// Brings \a reader to the start tag of the document element. Returns false, with an error on the

@@ -6,6 +6,8 @@
 #include <arvxml/responseroot.h>
 #include <arvxml/snapshot.h>
 
+#include <QtCore/QFile>
+#include <QtCore/QStringList>
 #include <QtCore/QXmlStreamReader>
 
 #include <algorithm>
@@ -16,6 +18,23 @@ using namespace ArvXml;
 namespace Document {
 
 namespace {
+
+/// What is seen of a document without knowing its kind.
+struct Outline {
+    QString tag; ///< the document element's tag, empty when there is none
+    QStringList attributes;
+    QStringList children; ///< as far as the document is well-formed
+    QString error;
+};
+
+/// A kind of document. The document element's tag is free, so a kind is recognised by any of these
+/// attributes of the document element, or any of these children.
+struct Kind {
+    const char* name;
+    QStringList attributes;
+    QStringList children;
+    std::unique_ptr<IXmlElement> (*make)(); ///< an empty root of this kind
+};
 
 template <typename Root>
 std::unique_ptr<IXmlElement> make()
@@ -40,8 +59,6 @@ const std::vector<Kind>& kinds()
     return table;
 }
 
-} // namespace
-
 Outline outlineOf(const QByteArray& document)
 {
     Outline outline;
@@ -62,6 +79,7 @@ Outline outlineOf(const QByteArray& document)
     return outline;
 }
 
+/// Null when the document is none of the protocol's.
 const Kind* kindOf(const Outline& outline)
 {
     const auto overlap = [](const QStringList& some, const QStringList& others) {
@@ -72,6 +90,36 @@ const Kind* kindOf(const Outline& outline)
             return &kind;
     }
     return nullptr;
+}
+
+} // namespace
+
+Loaded load(const QString& fileName)
+{
+    Loaded loaded;
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly)) {
+        loaded.problem = QStringLiteral("cannot be opened: %1").arg(file.errorString());
+        return loaded;
+    }
+    const QByteArray document = file.readAll();
+    const Outline outline = outlineOf(document);
+    loaded.tag = outline.tag;
+    if (outline.tag.isEmpty()) {
+        loaded.problem = QStringLiteral("no document: %1").arg(outline.error);
+        return loaded;
+    }
+    const Kind* kind = kindOf(outline);
+    if (!kind) {
+        loaded.problem = QStringLiteral("<%1> is no document of the protocol").arg(outline.tag);
+        return loaded;
+    }
+    loaded.kind = QString::fromLatin1(kind->name);
+    loaded.root = kind->make();
+    const ReadError error = read(document, *loaded.root);
+    if (error)
+        loaded.problem = QStringLiteral("%1, reading stops %2").arg(loaded.kind, error.withPlace());
+    return loaded;
 }
 
 } // namespace Document

@@ -1,39 +1,25 @@
 #pragma once
 
-#include <QtCore/QByteArray>
+#include <arvxml/element.h>
+
 #include <QtCore/QString>
-#include <QtCore/QStringList>
 
 #include <memory>
-
-namespace ArvXml {
-class IXmlElement;
-}
 
 /// \file
 /// Which of the protocol's three documents a file holds.
 
 namespace Document {
 
-/// What is seen of a document without knowing its kind.
-struct Outline {
-    QString tag; ///< the document element's tag, empty when there is none
-    QStringList attributes;
-    QStringList children; ///< as far as the document is well-formed
-    QString error;
-};
-Outline outlineOf(const QByteArray& document);
-
-/// A kind of document. The document element's tag is free, so a kind is recognised by any of these
-/// attributes of the document element, or any of these children.
-struct Kind {
-    const char* name;
-    QStringList attributes;
-    QStringList children;
-    std::unique_ptr<ArvXml::IXmlElement> (*make)(); ///< an empty root of this kind
+/// A file with a document, as far as it could be read.
+struct Loaded {
+    QString problem; ///< why it could not be read, empty when it was
+    QString kind;    ///< "command document" for example, empty when it is none of the protocol's
+    QString tag;     ///< of the document element
+    std::unique_ptr<ArvXml::IXmlElement> root; ///< null when the document is none of the protocol's
 };
 
-/// The kind of a document with this outline, null when it is none of the protocol's.
-const Kind* kindOf(const Outline& outline);
+/// Reads the file, whichever of the protocol's documents it holds.
+Loaded load(const QString& fileName);
 
 } // namespace Document

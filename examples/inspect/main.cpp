@@ -4,17 +4,11 @@
 #include "common/document.h"
 #include "common/kinds.h"
 
-#include <arvxml/element.h>
-
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
-#include <QtCore/QFile>
 
 #include <algorithm>
 #include <cstdio>
-#include <memory>
-
-using namespace ArvXml;
 
 namespace {
 
@@ -22,6 +16,7 @@ enum Status {
     Acceptable = 0,
     NotAcceptable = 1,
     NotReadable = 2, ///< no such file, no XML, or none of the protocol's documents
+    NotTold = 2,     ///< the standard output cannot be written
 };
 
 struct Settings {
@@ -37,34 +32,17 @@ Status inspect(const QString& fileName, const Settings& settings)
         return status;
     };
 
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
-        return report(NotReadable, QStringLiteral("cannot be opened: %1").arg(file.errorString()));
-    const QByteArray document = file.readAll();
-    const Document::Outline outline = Document::outlineOf(document);
-    if (outline.tag.isEmpty())
-        return report(NotReadable, QStringLiteral("no document: %1").arg(outline.error));
-    const Document::Kind* kind = Document::kindOf(outline);
-    if (!kind)
-        return report(NotReadable, QStringLiteral("<%1> is no document of the protocol").arg(outline.tag));
-
-    const QString name = QString::fromLatin1(kind->name);
-    const std::unique_ptr<IXmlElement> root = kind->make();
-    const Document::ReadError error = Document::read(document, *root);
-    if (error) {
-        return report(NotAcceptable,
-                      QStringLiteral("%1, reading stops at line %2, column %3: %4")
-                          .arg(name)
-                          .arg(error.line)
-                          .arg(error.column)
-                          .arg(error.text));
+    const Document::Loaded document = Document::load(fileName);
+    if (!document.problem.isEmpty())
+        return report(document.root ? NotAcceptable : NotReadable, document.problem);
+    if (settings.rewrite) {
+        const QByteArray rewritten = Document::written(*document.root, document.tag, settings.indent).trimmed();
+        std::printf("%s\n", rewritten.constData());
     }
-    if (settings.rewrite)
-        std::printf("%s\n", Document::written(*root, outline.tag, settings.indent).trimmed().constData());
-    const QString problems = Document::problems(*root);
+    const QString problems = Document::problems(*document.root);
     if (!problems.isEmpty())
-        return report(NotAcceptable, QStringLiteral("%1, not acceptable:\n%2").arg(name, problems));
-    return report(Acceptable, QStringLiteral("%1, acceptable").arg(name));
+        return report(NotAcceptable, QStringLiteral("%1, not acceptable:\n%2").arg(document.kind, problems));
+    return report(Acceptable, QStringLiteral("%1, acceptable").arg(document.kind));
 }
 
 } // namespace
@@ -77,7 +55,8 @@ int main(int argc, char* argv[])
     QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral("Tells which document of the protocol each file is, and what is wrong with it.\n"
-                       "Exit status: 0 all acceptable, 1 not acceptable, 2 not readable at all."));
+                       "Exit status: 0 all acceptable, 1 not acceptable, 2 not readable at all, or the standard output "
+                       "not writable."));
     parser.addHelpOption();
     const QCommandLineOption rewriteOption(
         QStringLiteral("rewrite"),
@@ -85,7 +64,10 @@ int main(int argc, char* argv[])
             "Write each document that could be read to the standard output, and the report elsewhere. Some "
             "elements are written otherwise than they are read, and one under tags that are no XML: not every "
             "document can be read again."));
-    const QCommandLineOption indentOption(QStringLiteral("indent"), QStringLiteral("Indent what is rewritten."));
+    const QCommandLineOption indentOption(
+        QStringLiteral("indent"),
+        QStringLiteral("Indent what is rewritten, for people: snapshot requests with results "
+                       "cannot be read again then."));
     parser.addOptions({rewriteOption, indentOption});
     parser.addPositionalArgument(QStringLiteral("files"), QStringLiteral("The files."), QStringLiteral("files..."));
     parser.process(app);
@@ -101,5 +83,9 @@ int main(int argc, char* argv[])
     Status worst = Acceptable;
     for (const QString& file : files)
         worst = std::max(worst, inspect(file, settings));
+    if (std::fflush(stdout) != 0 || std::ferror(stdout)) {
+        std::fprintf(stderr, "standard output: cannot be written\n");
+        return NotTold;
+    }
     return worst;
 }

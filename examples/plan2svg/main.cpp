@@ -1,7 +1,6 @@
 // An example tool: draws the plan that a document holds as a picture (SVG), for people who would rather
 // look than read.
 
-#include "common/document.h"
 #include "common/kinds.h"
 #include "plan2svg/drawing.h"
 
@@ -12,6 +11,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
+#include <QtCore/QSaveFile>
 
 #include <cstdio>
 
@@ -25,9 +25,14 @@ enum Status {
     Failed = 2, ///< the document cannot be read, or the picture not be written
 };
 
-int report(Status status, const QString& fileName, const QString& text)
+void warn(const QString& fileName, const QString& text)
 {
     std::fprintf(stderr, "%s: %s\n", qPrintable(fileName), qPrintable(text));
+}
+
+Status report(Status status, const QString& fileName, const QString& text)
+{
+    warn(fileName, text);
     return status;
 }
 
@@ -40,44 +45,37 @@ Features featuresOf(const IXmlElement& root)
     return {}; // a response has no plan
 }
 
-bool writeTo(const QString& fileName, const QByteArray& picture)
+/// Writes to the standard output when there is no file name. Returns what went wrong, empty for nothing.
+QString writeTo(const QString& fileName, const QByteArray& picture)
 {
-    QFile file(fileName);
+    const QFileInfo target(fileName);
+    if (!fileName.isEmpty() && (!target.exists() || target.isFile())) {
+        QSaveFile file(fileName); // no half of a picture, and the old one stays when the new one fails
+        const bool isWritten =
+            file.open(QIODevice::WriteOnly) && file.write(picture) == picture.size() && file.commit();
+        return isWritten ? QString() : file.errorString();
+    }
+    QFile file(fileName); // a device is written to, not replaced
     const bool isOpen = fileName.isEmpty() ? file.open(stdout, QIODevice::WriteOnly) : file.open(QIODevice::WriteOnly);
-    return isOpen && file.write(picture) == picture.size() && file.flush();
+    const bool isWritten = isOpen && file.write(picture) == picture.size() && file.flush();
+    return isWritten ? QString() : file.errorString();
 }
 
-int draw(const QString& fileName, const QString& title, const QString& pictureName)
+Status draw(const QString& fileName, const QString& title, const QString& pictureName)
 {
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
-        return report(Failed, fileName, QStringLiteral("cannot be opened: %1").arg(file.errorString()));
-    const QByteArray document = file.readAll();
-    const Document::Outline outline = Document::outlineOf(document);
-    if (outline.tag.isEmpty())
-        return report(Failed, fileName, QStringLiteral("no document: %1").arg(outline.error));
-    const Document::Kind* kind = Document::kindOf(outline);
-    if (!kind)
-        return report(Failed, fileName, QStringLiteral("<%1> is no document of the protocol").arg(outline.tag));
-
-    const QString name = QString::fromLatin1(kind->name);
-    const std::unique_ptr<IXmlElement> root = kind->make();
-    const Document::ReadError error = Document::read(document, *root);
-    const Features features = featuresOf(*root);
-    if (error) {
-        return report(Failed, fileName,
-                      QStringLiteral("%1, reading stops at line %2, column %3: %4")
-                          .arg(name)
-                          .arg(error.line)
-                          .arg(error.column)
-                          .arg(error.text));
-    }
+    const Document::Loaded document = Document::load(fileName);
+    if (!document.problem.isEmpty())
+        return report(Failed, fileName, document.problem);
+    const Features features = featuresOf(*document.root);
     for (const QString& object : features.leftOut)
-        report(Drawn, fileName, QStringLiteral("left out, it has no place on earth: %1").arg(object));
+        warn(fileName, QStringLiteral("left out, it has no place on earth: %1").arg(object));
     if (features.drawable.isEmpty())
-        return report(NothingToDraw, fileName, QStringLiteral("%1, nothing to draw").arg(name));
-    if (!writeTo(pictureName, drawingOf(features.drawable, title)))
-        return report(Failed, pictureName, QStringLiteral("cannot be written"));
+        return report(NothingToDraw, fileName, QStringLiteral("%1, nothing to draw").arg(document.kind));
+    const QString problem = writeTo(pictureName, drawingOf(features.drawable, title));
+    if (!problem.isEmpty()) {
+        return report(Failed, pictureName.isEmpty() ? QStringLiteral("standard output") : pictureName,
+                      QStringLiteral("cannot be written: %1").arg(problem));
+    }
     return Drawn;
 }
 
@@ -91,7 +89,8 @@ int main(int argc, char* argv[])
     QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral("Draws the plan of a document: what a command document creates, or what a snapshot request\n"
-                       "wants to be shown.\n"
+                       "wants to be shown. Values are not judged: inspect does that. An area across the date line is\n"
+                       "drawn the long way round the earth.\n"
                        "Exit status: 0 drawn, 1 nothing to draw, 2 not readable (or the picture not writable)."));
     parser.addHelpOption();
     const QCommandLineOption titleOption(QStringLiteral("title"),

@@ -11,7 +11,7 @@ constexpr double metresPerDegree = 111195; // of latitude, on a sphere
 constexpr double leastDegrees = 0.01;      // shown around a single place
 constexpr double margin = 0.12;            // around what is shown, as a part of it
 
-/// The largest of 1, 2, 5, 10, 20 ... times 10 to some power that is not above \a limit.
+/// The largest of 1, 2 and 5 times a power of ten that is not above \a limit.
 double roundNumber(double limit)
 {
     const double power = qPow(10, qFloor(std::log10(limit)));
@@ -20,6 +20,25 @@ double roundNumber(double limit)
             return factor * power;
     }
     return power;
+}
+
+/// The degrees between two lines: round, or a part of the circle where much of the world is shown.
+double gridStep(double limit)
+{
+    for (const double step : {90, 45, 30}) {
+        if (step <= limit)
+            return step;
+    }
+    return roundNumber(limit);
+}
+
+/// Multiples of the step from \a from to \a to, but none beyond \a most, where the earth ends.
+Map::Lines linesBetween(double from, double to, double most, double step)
+{
+    Map::Lines lines{step, {}};
+    for (int i = qCeil(std::max(from, -most) / step); i * step <= std::min(to, most); ++i)
+        lines.degrees.append(i * step);
+    return lines;
 }
 
 QRectF extentOf(const QVector<Feature>& features)
@@ -72,32 +91,24 @@ QPointF Map::place(const QPointF& point) const
             m_frame.bottom() - (point.y() - m_degrees.top()) * m_perDegree};
 }
 
-double Map::gridStep() const
+QRectF Map::earth() const
 {
-    return roundNumber(m_degrees.height() / 2);
+    return m_frame.intersected(QRectF(place({-180, 90}), place({180, -90})));
 }
 
-QVector<double> Map::meridians() const
+Map::Lines Map::meridians() const
 {
-    return lines(m_degrees.left(), m_degrees.right());
+    return linesBetween(m_degrees.left(), m_degrees.right(), 180, gridStep(m_degrees.width() / 4));
 }
 
-QVector<double> Map::parallels() const
+Map::Lines Map::parallels() const
 {
-    return lines(m_degrees.top(), m_degrees.bottom());
+    return linesBetween(m_degrees.top(), m_degrees.bottom(), 90, gridStep(m_degrees.height() / 2));
 }
 
-QVector<double> Map::lines(double from, double to) const
+Map::Scale Map::scale(double greatestLength) const
 {
-    QVector<double> lines;
-    const double step = gridStep();
-    for (int i = qCeil(from / step); i * step < to; ++i)
-        lines.append(i * step);
-    return lines;
-}
-
-Map::Scale Map::scale() const
-{
-    const double metres = roundNumber(m_degrees.height() * metresPerDegree / 3);
-    return {metres, metres / metresPerDegree * m_perDegree};
+    const double metresPerLength = metresPerDegree / m_perDegree;
+    const double metres = roundNumber(std::min(m_frame.height() / 3, greatestLength) * metresPerLength);
+    return {metres, metres / metresPerLength};
 }

@@ -45,6 +45,11 @@ private Q_SLOTS:
     void whatIsRewrittenIsNotAlwaysReadable();
     void rewrittenModelsAreNotAlwaysReadable_data();
     void rewrittenModelsAreNotAlwaysReadable();
+    void indentedResultsAreNotReadable();
+    void placeOfAnError_data();
+    void placeOfAnError();
+    void lostOutputIsAnError_data();
+    void lostOutputIsAnError();
 };
 
 void InspectTest::samples_data()
@@ -265,6 +270,72 @@ void InspectTest::rewrittenModelsAreNotAlwaysReadable()
 
     QVERIFY2(again.output.contains(text), qPrintable(again.output));
     QCOMPARE(again.status, text.endsWith(QLatin1String("acceptable")) ? 0 : 1);
+}
+
+void InspectTest::indentedResultsAreNotReadable()
+{
+    // A request with one result alone: other elements of the sample cannot be read again, indented or not.
+    const QString request = QString::fromUtf8(sample("good/snapshot.xml"));
+    const int begin = request.indexOf(QLatin1String("<Result_CEP"));
+    const int end = request.indexOf(QLatin1String("</Result_CEP>"), begin);
+    QVERIFY(begin > 0 && end > begin);
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("document.xml"));
+    const auto write = [&path](const QString& document) {
+        QFile file(path);
+        return file.open(QIODevice::WriteOnly) && file.write(document.toUtf8()) > 0;
+    };
+    const QString one = QStringLiteral("<Snapshot><ScreenshotPath>p</ScreenshotPath><DisplayedObjects>%1</Result_CEP>"
+                                       "</DisplayedObjects></Snapshot>")
+                            .arg(request.mid(begin, end - begin));
+    QVERIFY(write(one));
+    const Run plain = inspect({QStringLiteral("--rewrite"), path});
+    const Run indented = inspect({QStringLiteral("--rewrite"), QStringLiteral("--indent"), path});
+    QCOMPARE(plain.status, 0);
+    QCOMPARE(indented.status, 0);
+    QVERIFY(write(plain.output));
+    QCOMPARE(inspect({path}).status, 0);
+    QVERIFY(write(indented.output));
+    const Run again = inspect({path});
+    QCOMPARE(again.status, 1);
+    QVERIFY2(again.output.contains(QLatin1String("Unexpected characters")), qPrintable(again.output));
+}
+
+void InspectTest::placeOfAnError_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("an element tells it") << QStringLiteral("bad/create-two-objects.xml")
+                                         << QStringLiteral("command document, reading stops in XmlCmdCreate (line 21, "
+                                                           "column 28): Unexpected element \"Receiver\".");
+    QTest::newRow("the reader does not") << QStringLiteral("bad/cut-off.xml")
+                                         << QStringLiteral("command document, reading stops at line 13, column 0: "
+                                                           "Premature end of document.");
+}
+
+void InspectTest::placeOfAnError()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, text);
+    QCOMPARE(inspect({samplePath(file)}).output, QStringLiteral("%1: %2\n").arg(samplePath(file), text));
+}
+
+void InspectTest::lostOutputIsAnError_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QString>("file");
+    QTest::newRow("of a report") << QStringList() << QStringLiteral("good/calculate-cep.xml");
+    QTest::newRow("of a document") << QStringList(QStringLiteral("--rewrite")) << QStringLiteral("good/plan.xml");
+}
+
+void InspectTest::lostOutputIsAnError()
+{
+    QFETCH(QStringList, options);
+    QFETCH(QString, file);
+    const Run run =
+        runProgramInto(QStringLiteral("/dev/full"), INSPECT_PROGRAM, options + QStringList(samplePath(file)));
+    QCOMPARE(run.status, 2);
+    QVERIFY2(run.errors.endsWith(QLatin1String("standard output: cannot be written\n")), qPrintable(run.errors));
 }
 
 QTEST_GUILESS_MAIN(InspectTest)

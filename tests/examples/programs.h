@@ -40,6 +40,17 @@ inline Run runProgram(const char* program, const QStringList& arguments)
     return finished(process);
 }
 
+/// A run whose standard output goes to a file. The device /dev/full is one that cannot be written.
+inline Run runProgramInto(const QString& outputFile, const char* program, const QStringList& arguments)
+{
+    QProcess process;
+    process.setStandardOutputFile(outputFile);
+    process.start(QString::fromUtf8(program), arguments);
+    if (!process.waitForStarted(patienceMs))
+        return Run();
+    return finished(process);
+}
+
 inline QString samplePath(const QString& name)
 {
     return QDir(QStringLiteral(DOCUMENTS_FOLDER)).filePath(name);
