@@ -169,7 +169,7 @@ protected:
     void writeChildren(QXmlStreamWriter& writer) const;
     /// Adds the problems of the children in the order of the form.
     void addChildrenErrors();
-    /// How many children the element holds.
+    /// How many children the element holds, those left out that are always there.
     int heldChildren() const;
 };
 

@@ -75,7 +75,6 @@ protected:
     void writeAttributes(QXmlStreamWriter& writer) const override;
 
 private:
-    void readParameter(QXmlStreamReader& reader);
     bool isTypeDefined() const;
     bool hasParametersOfType() const;
 

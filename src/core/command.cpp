@@ -12,7 +12,7 @@ void XmlCommand::reset()
 
 Content XmlChoiceCommand::referenceChild()
 {
-    return uncounted(reportedApart(child<&XmlChoiceCommand::m_reference>()));
+    return reportedApart(child<&XmlChoiceCommand::m_reference>());
 }
 
 bool XmlChoiceCommand::holdsExactlyOne() const

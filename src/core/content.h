@@ -90,7 +90,7 @@ void resetMember(OwnedList<T, Pointers>& list)
 
 inline int memberCount(const IXmlElement&)
 {
-    return 1;
+    return 0; // always there, so not counted
 }
 template <typename T>
 int memberCount(const OptionalChild<T>& child)
@@ -112,7 +112,7 @@ struct Content {
     bool (*isValid)(const XmlElementBase& owner) = [](auto&) { return true; };
     QString (*syntaxError)(XmlElementBase& owner) = [](auto&) { return QString(); };
     void (*reset)(XmlElementBase& owner) = [](auto&) {};
-    /// How many children are held.
+    /// How many children are held that could be absent.
     int (*count)(const XmlElementBase& owner) = [](auto&) { return 0; };
     /// The tag under which it is written, where that differs from the tag read.
     const char* writtenTag = nullptr;
@@ -242,17 +242,6 @@ Content takenBy()
     return content;
 }
 
-/// A child that a member function of the owner reads; it is not written.
-template <auto Read>
-Content readBy()
-{
-    Content content;
-    content.read = [](XmlElementBase& owner, ElementReader& in, const QString&) {
-        (static_cast<typename OwnerOf<decltype(Read)>::Type&>(owner).*Read)(in.stream());
-    };
-    return content;
-}
-
 /// A child that a member function of the owner writes; reading it just sets the marks.
 template <auto Write>
 Content writtenBy()
@@ -312,13 +301,6 @@ inline Content reportedApart(Content content)
 inline Content unjudged(Content content)
 {
     content.isValid = Content().isValid;
-    return content;
-}
-
-/// The same, but not counted among the children.
-inline Content uncounted(Content content)
-{
-    content.count = Content().count;
     return content;
 }
 

@@ -52,20 +52,23 @@ void ElementReader::refuseTag(const char* message)
 
 void ElementReader::refuseOtherToken()
 {
+    const char* message = nullptr;
     switch (m_reader.tokenType()) {
     case QXmlStreamReader::Invalid:
-        if (!m_reader.hasError())
-            fail(QStringLiteral("Invalid token"));
+        message = "Invalid token";
         break;
     case QXmlStreamReader::StartDocument:
-        fail(QStringLiteral("Unexpected token \"StartDocument\""));
+        message = "Unexpected token \"StartDocument\"";
         break;
     case QXmlStreamReader::EndDocument:
-        fail(QStringLiteral("Unexpected token \"EndDocument\""));
+        message = "Unexpected token \"EndDocument\"";
         break;
     default:
         break; // comments, processing instructions, unresolved entities: nothing to us
     }
+    // The stream's own error, which most invalid tokens come with, says more.
+    if (message && !m_reader.hasError())
+        fail(QString::fromLatin1(message));
 }
 
 } // namespace ArvXml

@@ -19,7 +19,7 @@ bool takeDigits(const QString& text, int at, int count, int& number)
 
 QDateTime plainDateTime(const QString& text)
 {
-    constexpr QLatin1String form("dddd-dd-ddTdd:dd:dd");
+    const QLatin1String form("dddd-dd-ddTdd:dd:dd");
     if (text.size() != form.size())
         return {};
     for (int i = 0; i < form.size(); ++i) {

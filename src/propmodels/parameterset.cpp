@@ -57,8 +57,7 @@ void XmlParameterSet::readParameter(int parameter, ElementReader& in)
         const auto found = std::find(first, row.texts.cend(), text);
         ok = found != row.texts.cend();
         value = static_cast<double>(found - row.texts.cbegin());
-        break;
-    }
+    } break;
     }
 
     setValue(parameter, ok ? value : row.afterBadText);

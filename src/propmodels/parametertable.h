@@ -131,9 +131,9 @@ public:
     ParameterTable(std::initializer_list<NumberedRow> rows)
     {
         for (const NumberedRow& numbered : rows) {
-            Q_ASSERT(numbered.parameter == size());
             m_reportOrder.push_back(numbered.parameter);
             m_rows.push_back(numbered.row);
+            Q_ASSERT(numbered.parameter == size() - 1);
         }
     }
 
@@ -146,7 +146,6 @@ public:
     /// Problems are reported in another order than that of the table.
     ParameterTable& reportedInOrder(std::vector<int> order)
     {
-        Q_ASSERT(order.size() == m_rows.size());
         m_reportOrder = std::move(order);
         return *this;
     }

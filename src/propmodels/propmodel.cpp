@@ -24,15 +24,14 @@ const EnumerationRules& XmlPropModelEnumType::rules() const
 
 void XmlPropModelEnumType::processXml(QXmlStreamReader& reader, const QString& tagName)
 {
-    // Unlike the other enumerations: on a start tag only, and the text is read whole.
+    // Unlike the other enumerations: on a start tag only, and the text is read whole, which ends on the end tag
+    // or with an error.
     ElementReader in(*this, reader, tagName, leafWording);
-    if (in.requireStartTag()) {
-        m_value = rules().texts.value(in.childText());
-        if (m_value == ModelUndefined)
-            in.fail(QString::fromLatin1(rules().unknownText));
-    }
-    if (!reader.hasError() && !reader.isEndElement())
-        in.fail(QStringLiteral("Unexpected token"));
+    if (!in.requireStartTag())
+        return;
+    m_value = rules().texts.value(in.childText());
+    if (m_value == ModelUndefined)
+        in.fail(QString::fromLatin1(rules().unknownText));
 }
 
 // The command
@@ -52,7 +51,7 @@ XmlPropModelType::XmlPropModelType(bool isCommand)
 /// The reference; it is written and judged only for a command, and the gate lets only a command read it.
 Content XmlPropModelType::referenceOfCommand()
 {
-    Content content = uncounted(reportedApart(child<&XmlPropModelType::m_reference>()));
+    Content content = reportedApart(child<&XmlPropModelType::m_reference>());
     content.write = [](const XmlElementBase& owner, QXmlStreamWriter& writer, const QString& tag) {
         const auto& self = static_cast<const XmlPropModelType&>(owner);
         if (self.isCommand())

@@ -36,14 +36,6 @@ constexpr Marks typeMark(XmlGridResultType::ResultType type)
     return type == XmlGridResultType::ResultUndefined ? 0 : Marks(FirstType) << (type - 1);
 }
 
-/// Reads the parameters into a new set that takes the wrapper's tag for its own: it will refuse the
-/// end tag of "Parameter".
-template <typename T>
-void readAs(const char* wrapper, OptionalChild<T>& set, QXmlStreamReader& reader)
-{
-    set.renew().processXml(reader, QString::fromLatin1(wrapper));
-}
-
 /// Parameters of one kind, written in their wrapper together with the file name.
 template <auto Member>
 Content wrapped()
@@ -61,6 +53,24 @@ Content wrapped()
         writer.writeEndElement();
     };
     return content;
+}
+
+/// Reads the parameters into a new set that takes the wrapper's tag for its own: it will refuse the end
+/// tag of "Parameter".
+template <auto Member, const char* wrapper>
+Content readAs()
+{
+    Content content;
+    content.read = [](XmlElementBase& owner, ElementReader& in, const QString&) {
+        memberOf<Member>(owner).renew().processXml(in.stream(), QString::fromLatin1(wrapper));
+    };
+    return content;
+}
+
+/// "Parameter", the first of its rows that fits: the type decides, not the wrapper's name.
+Row parameter(XmlGridResultType::ResultType type, const Content& parameters)
+{
+    return {"Parameter", 0, ParameterDone | FilenameDone, parameters, InWrapper | typeMark(type)};
 }
 
 } // namespace
@@ -84,7 +94,11 @@ const ElementForm& XmlGridResultType::form() const
                 {detectProbTag, InWrapper, Entered, wrapped<&Self::m_detectProb>(), typeMark(ResultDetectProb)},
                 {dfCovTag, InWrapper, Entered, wrapped<&Self::m_dfCov>(), typeMark(ResultDfCoverage)},
                 {bestSensorTag, InWrapper, Entered, wrapped<&Self::m_bestSensor>(), typeMark(ResultBestSensorCov)},
-                {"Parameter", 0, ParameterDone | FilenameDone, readBy<&Self::readParameter>(), InWrapper},
+                parameter(ResultFindSites, readAs<&Self::m_findSites, findSitesTag>()),
+                parameter(ResultCep, readAs<&Self::m_cep, cepTag>()),
+                parameter(ResultDetectProb, readAs<&Self::m_detectProb, detectProbTag>()),
+                parameter(ResultDfCoverage, readAs<&Self::m_dfCov, dfCovTag>()),
+                parameter(ResultBestSensorCov, readAs<&Self::m_bestSensor, bestSensorTag>()),
                 {"ScreenshotFilename", FilenameDone, FilenameDone, takenBy<&Self::setScreenshotFilename>(),
                  InWrapper | ParameterDone},
             })
@@ -109,24 +123,6 @@ quint32 XmlGridResultType::openElement(ElementReader& in)
     if (m_type == ResultUndefined)
         in.refuseAttribute(typeAttribute());
     return typeMark(m_type);
-}
-
-void XmlGridResultType::readParameter(QXmlStreamReader& reader)
-{
-    switch (m_type) { // the type decides, not the wrapper's name
-    case ResultFindSites:
-        return readAs(findSitesTag, m_findSites, reader);
-    case ResultCep:
-        return readAs(cepTag, m_cep, reader);
-    case ResultDetectProb:
-        return readAs(detectProbTag, m_detectProb, reader);
-    case ResultDfCoverage:
-        return readAs(dfCovTag, m_dfCov, reader);
-    case ResultBestSensorCov:
-        return readAs(bestSensorTag, m_bestSensor, reader);
-    case ResultUndefined:
-        return; // no wrapper was entered
-    }
 }
 
 void XmlGridResultType::writeAttributes(QXmlStreamWriter& writer) const

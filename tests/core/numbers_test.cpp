@@ -346,7 +346,7 @@ void NumbersTest::longNumbersRead()
 
 void NumbersTest::randomTextsRead()
 {
-    constexpr QLatin1String alphabet("0123456789.-+ e,0123456789.");
+    const QLatin1String alphabet("0123456789.-+ e,0123456789.");
     std::mt19937_64 random(11);
     Verdict verdict;
     for (int i = 0; i < 500000; ++i) {
