@@ -123,7 +123,7 @@ private:
 /// while reading.
 ///
 /// reset() removes key and value: their getters then return null, nothing of them is written, and the
-/// entry is invalid, until they are set or read again.
+/// entry is invalid without a problem being told, until they are set or read again.
 class ARVXML_EXPORT XmlMapType : public XmlVersionedComposite {
 public:
     XmlMapType();

@@ -141,6 +141,9 @@ protected:
 /// The value is held in MHz, whatever the unit on the wire. A number read with an unknown unit is
 /// dropped (the value stays as it was) and the unit reported later. Valid above 0.0 ("Illegal
 /// frequency."), with the unit "Hz", "kHz", "MHz" or "GHz" ("Illegal unit.").
+///
+/// In Hz, from some gigahertz on, the conversion to MHz and back changes the last decimals written, a little
+/// more each time that a document is read and written again.
 class ARVXML_EXPORT XmlFreqType : public XmlReadUnitQuantity {
 public:
     XmlFreqType();

@@ -1,0 +1,536 @@
+#include "support/generator.h"
+
+#include <QtCore/QSet>
+
+#include <functional>
+#include <optional>
+
+/// \file
+/// Elements that are given what is their own, outlive others, are read into while in use, and are moved about.
+
+using namespace ArvXml;
+using Generator::ChildOf;
+using Generator::ItemOf;
+using Generator::pointerTo;
+using Generator::Random;
+using Generator::Validity;
+using Generator::ValueOf;
+using Generator::visit;
+using Generator::Visitor;
+
+namespace {
+
+const QString& tag()
+{
+    static const auto text = QStringLiteral("Tag");
+    return text;
+}
+
+/// All that can be seen of an element.
+template <typename T>
+QString shown(const T& element)
+{
+    T copy(element);
+    return ElementTest::written(element, tag()) + QLatin1Char('\n') + copy.syntaxError() + QLatin1Char('\n')
+        + Samples::unseenOf(element) + QLatin1Char(element.isValid() ? '+' : '-');
+}
+
+/// Uses an element in every way, so that a checker of memory can see it. Lets it be reset in the end.
+template <typename T>
+void use(T& element)
+{
+    const QString before = shown(element);
+    T copy(element);
+    T assigned = Generator::newObject<T>(true);
+    assigned = element;
+    element.syntaxError();
+    Samples::reset(element);
+    element = copy;
+    QVERIFY(shown(element) == before);
+    Samples::reset(copy);
+    QVERIFY(shown(element) == before);
+    QVERIFY(shown(assigned) == before);
+    Samples::reset(element);
+}
+
+template <typename T>
+T generated(int number, Validity validity = Validity::Valid)
+{
+    Random random(static_cast<quint32>(number));
+    return Generator::generate<T>(random, validity);
+}
+
+// An element's own things given to it
+
+/// Gives each thing that an element holds to its own setter, and each child to the setters of its kind.
+template <typename T>
+class GivingBack : public Visitor<GivingBack<T>> {
+public:
+    explicit GivingBack(const T& original)
+        : m_original(original)
+    {
+    }
+    int given() const { return m_given; }
+
+    template <typename Get, typename Set>
+    void child(const char* name, Get get, Set set)
+    {
+        T object(m_original);
+        const auto* held = pointerTo(std::invoke(get, std::as_const(object)));
+        if (!held)
+            return;
+        std::invoke(set, object, *held);
+        verifySame(object, set, *held, name);
+        QVERIFY2(pointerTo(std::invoke(get, std::as_const(object))) == held, name); // assigned into, not replaced
+
+        GivingAway<ChildOf<T, Get>> away(m_original, get);
+        visit<T>(away);
+    }
+    template <typename Get, typename Set, typename Rule>
+    void value(const char* name, Get get, Set set, const Rule&)
+    {
+        T object(m_original);
+        std::invoke(set, object, std::invoke(get, std::as_const(object)));
+        verifySame(object, set, ValueOf<T, Get>(std::invoke(get, m_original)), name);
+    }
+    template <typename Has, typename Get, typename Set, typename Rule>
+    void parameter(const char* name, Has has, Get get, Set set, const Rule& rule)
+    {
+        if (std::invoke(has, m_original))
+            value(name, get, set, rule);
+    }
+    template <typename Get, typename Set>
+    void list(const char* name, Get get, Set set)
+    {
+        using Pointers = ValueOf<T, Get>;
+        T object(m_original);
+        if (std::invoke(get, std::as_const(object)).isEmpty())
+            return; // there is nothing of its own to give
+        std::invoke(set, object, std::invoke(get, std::as_const(object)));
+        verifySame(object, set, std::invoke(get, m_original), name);
+        const auto giveNames = [&](auto change) {
+            T other(m_original);
+            Pointers pointers = std::invoke(get, std::as_const(other));
+            change(pointers);
+            QStringList expected;
+            for (const auto* item : pointers) {
+                if (item)
+                    expected.append(shown(*item));
+            }
+            std::invoke(set, other, pointers);
+            QStringList held;
+            for (const auto* item : std::invoke(get, std::as_const(other)))
+                held.append(shown(*item));
+            if (std::is_same_v<T, XmlAreaPolyType>) { // they go by their numbers
+                expected.sort();
+                held.sort();
+            }
+            QVERIFY2(held == expected, name);
+            use(other);
+        };
+        giveNames([](Pointers& items) { std::reverse(items.begin(), items.end()); });
+        giveNames([](Pointers& items) { items.append(items.first()); });
+        giveNames([](Pointers& items) { items = {nullptr, items.last(), nullptr, items.last()}; });
+        giveNames([](Pointers& items) { items = {items.first()}; });
+        giveNames([](Pointers& items) { items.clear(); });
+    }
+    template <typename Get, typename Add>
+    void added(const char* name, Get get, Add add)
+    {
+        T object(m_original);
+        QStringList expected;
+        for (const auto* item : std::invoke(get, std::as_const(object)))
+            expected.append(shown(*item));
+        if (expected.isEmpty())
+            return;
+        for (int left = 5; left > 0; --left) { // often enough for the list to need more room
+            expected.append(expected.first());
+            std::invoke(add, object, *std::invoke(get, std::as_const(object)).first());
+        }
+        QStringList held;
+        for (const auto* item : std::invoke(get, std::as_const(object)))
+            held.append(shown(*item));
+        QVERIFY2(held == expected, name);
+        ++m_given;
+    }
+    template <typename Get>
+    void held(const char*, Get)
+    {
+    }
+    template <typename Get>
+    void heldOne(const char*, Get)
+    {
+    }
+
+private:
+    /// Gives a child to all setters that take one of its kind.
+    template <typename Child>
+    class GivingAway : public Visitor<GivingAway<Child>> {
+    public:
+        template <typename Get>
+        GivingAway(const T& original, Get get)
+            : m_original(original)
+            , m_get([get](const T& object) { return pointerTo(std::invoke(get, object)); })
+        {
+        }
+        template <typename Get, typename Set>
+        void child(const char* name, Get get, Set set)
+        {
+            if constexpr (std::is_same_v<ChildOf<T, Get>, Child>) {
+                T object(m_original);
+                const QString expected = shown(*m_get(object));
+                std::invoke(set, object, *m_get(object));
+                QVERIFY2(shown(*pointerTo(std::invoke(get, std::as_const(object)))) == expected, name);
+                use(object);
+            }
+        }
+        template <typename Get>
+        void held(const char*, Get)
+        {
+        }
+        template <typename Get>
+        void heldOne(const char*, Get)
+        {
+        }
+
+    private:
+        const T& m_original;
+        std::function<const Child*(const T&)> m_get;
+    };
+
+    template <typename Set, typename Value>
+    void verifySame(const T& object, Set set, const Value& notItsOwn, const char* name)
+    {
+        T expected(m_original);
+        if constexpr (std::is_base_of_v<XmlNameChoice, T>)
+            std::invoke(set, expected, notItsOwn); // makes the choice, also where that changes nothing else
+        QVERIFY2(shown(object) == shown(expected), name);
+        ++m_given;
+    }
+
+    const T& m_original;
+    int m_given = 0;
+};
+
+/// Puts the text of the tag into each of an element's texts, and lets that be the tag.
+template <typename T>
+class OwnTag : public Visitor<OwnTag<T>> {
+public:
+    explicit OwnTag(const QString& xml)
+        : m_xml(xml)
+        , m_name(Samples::tagOf({"", xml}))
+    {
+    }
+    template <typename Get, typename Set>
+    void child(const char*, Get, Set)
+    {
+    }
+    template <typename Get>
+    void held(const char*, Get)
+    {
+    }
+    template <typename Get>
+    void heldOne(const char*, Get)
+    {
+    }
+    template <typename Get, typename Set, typename Rule>
+    void value(const char* name, Get get, Set set, const Rule&)
+    {
+        if constexpr (std::is_same_v<std::invoke_result_t<Get, const T&>, const QString&>) {
+            T expected = Generator::newObject<T>(true);
+            std::invoke(set, expected, QString(m_name));
+            if (std::invoke(get, std::as_const(expected)) != m_name)
+                return; // a text that the setter does not accept
+            T object(expected);
+            const QString error = ElementTest::readError(expected, m_xml);
+
+            QXmlStreamReader reader(m_xml);
+            reader.readNextStartElement();
+            object.processXml(reader, std::invoke(get, std::as_const(object)));
+            QVERIFY2(reader.errorString() == error, name);
+            QVERIFY2(shown(object) == shown(expected), name);
+            ++m_texts;
+        }
+    }
+    int texts() const { return m_texts; }
+
+private:
+    QString m_xml;
+    QString m_name;
+    int m_texts = 0;
+};
+
+/// The ends of all tokens of a document but the last: where it is cut off.
+std::vector<int> cutsOf(const QString& xml)
+{
+    std::vector<int> cuts;
+    QXmlStreamReader reader(xml);
+    while (!reader.atEnd()) {
+        reader.readNext();
+        const int end = static_cast<int>(reader.characterOffset());
+        if (end > 0 && end < xml.size() && (cuts.empty() || cuts.back() < end))
+            cuts.push_back(end);
+    }
+    return cuts;
+}
+
+/// The classes that keep something when they are read into: what the document does not mention, or items to which
+/// those read are added. All others are then as a new element that was read.
+const QStringList& keepingClasses()
+{
+    static const QStringList names = {
+        QStringLiteral("XmlNameAllMultiType"),
+        QStringLiteral("XmlAreaPolyType"),
+        QStringLiteral("XmlOrderDef"),
+        QStringLiteral("XmlDeploymentAreaType"),
+        QStringLiteral("XmlAoiType"),
+        QStringLiteral("XmlDeviceType"),
+        QStringLiteral("XmlSignalPathType"),
+        QStringLiteral("XmlStationType"),
+        QStringLiteral("XmlReceiverType"),
+        QStringLiteral("XmlDfType"),
+        QStringLiteral("XmlPropModelType"),
+        QStringLiteral("XmlPropModelOLOSType"),
+        QStringLiteral("XmlCepType"),
+        QStringLiteral("XmlDetectProbType"),
+        QStringLiteral("XmlDfCovType"),
+        QStringLiteral("XmlBestSensorType"),
+        QStringLiteral("XmlFindSitesType"),
+        QStringLiteral("XmlCmdCalc"),
+        QStringLiteral("XmlCmdAdmin"),
+        QStringLiteral("XmlCmdRoot"),
+        QStringLiteral("XmlInterlinkResultType"),
+        QStringLiteral("XmlAutoRespType"),
+        QStringLiteral("XmlInteractRespType"),
+        QStringLiteral("XmlRespRoot"),
+        QStringLiteral("XmlResInfo_Cep_Type"),
+        QStringLiteral("XmlResInfo_DetectProb_Type"),
+        QStringLiteral("XmlResInfo_DfCov_Type"),
+        QStringLiteral("XmlResInfo_FindSites_Type"),
+        QStringLiteral("XmlResInfo_BestSensor_Type"),
+        QStringLiteral("XmlArvBtType"),
+    };
+    return names;
+}
+
+constexpr int objectsOfAClass = 16;
+
+} // namespace
+
+class LifetimeTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void ownThings()
+    {
+        Samples::forEachClass([](auto type, const char* name) {
+            using T = typename decltype(type)::Type;
+            int given = 0;
+            for (int number = 0; number < objectsOfAClass; ++number) {
+                for (const Validity validity : {Validity::Valid, Validity::Faulty}) {
+                    const T object = generated<T>(number, validity);
+                    GivingBack<T> giving(object);
+                    visit<T>(giving);
+                    given += giving.given();
+                }
+            }
+            QVERIFY2(given > 0, name);
+        });
+    }
+
+    void ownTextAsTag()
+    {
+        QStringList classes;
+        Samples::forEachClass([&classes](auto type, const char* name) {
+            using T = typename decltype(type)::Type;
+            int texts = 0;
+            for (const Samples::Sample& sample : Samples::samplesOf<T>()) {
+                OwnTag<T> ownTag(sample.xml);
+                visit<T>(ownTag);
+                texts += ownTag.texts();
+            }
+            if (texts > 0)
+                classes.append(QLatin1String(name));
+        });
+        // Those with a text of which the getter gives a reference.
+        QCOMPARE(
+            classes,
+            QStringList({QStringLiteral("XmlLengthType"), QStringLiteral("XmlPowerType"), QStringLiteral("XmlFreqType"),
+                         QStringLiteral("XmlBandwidthType"), QStringLiteral("XmlFieldstrengthType"),
+                         QStringLiteral("XmlObjNameType"), QStringLiteral("XmlReferenceType"),
+                         QStringLiteral("XmlOrderDef"), QStringLiteral("XmlDfPrecisionType"),
+                         QStringLiteral("XmlInterlinkPlanningType"), QStringLiteral("XmlGridResultType"),
+                         QStringLiteral("XmlGridValuesType"), QStringLiteral("XmlInterlinkResultType"),
+                         QStringLiteral("XmlAutoRespType"), QStringLiteral("XmlArvBtType")}));
+    }
+
+    void copiesOutliveTheirSource()
+    {
+        Samples::forEachClass([](auto type, const char* name) {
+            using T = typename decltype(type)::Type;
+            for (int number = 0; number < objectsOfAClass; ++number) {
+                auto source = std::make_unique<T>(generated<T>(number));
+                auto target = std::make_unique<T>(generated<T>(number + 1, Validity::Faulty));
+                const QString expected = shown(*source);
+                T copy(*source);
+                *target = *source;
+                source.reset();
+                QVERIFY2(shown(copy) == expected, name);
+                QVERIFY2(shown(*target) == expected, name);
+                use(copy);
+                QVERIFY2(shown(*target) == expected, name);
+                use(*target);
+            }
+        });
+    }
+
+    void readingIntoUsedElements()
+    {
+        QStringList keeping;
+        Samples::forEachClass([&keeping](auto type, const char* name) {
+            using T = typename decltype(type)::Type;
+            bool isKeeping = false;
+            for (const Samples::Sample& sample : Samples::samplesOf<T>()) {
+                if (!sample.error.isEmpty())
+                    continue; // what is left of those is told below
+                for (int number = 0; number < objectsOfAClass; ++number) {
+                    T used = generated<T>(number);
+                    T fresh = Generator::newObject<T>(isCommand(used));
+                    const QString freshError = ElementTest::readError(fresh, sample.xml);
+                    const QString error = ElementTest::readError(used, sample.xml);
+                    QVERIFY2(error == freshError, name);
+                    isKeeping = isKeeping || shown(used) != shown(fresh);
+                    QVERIFY2(ElementTest::readError(used, sample.xml) == error, name);
+                    use(used);
+                    // What was reset reads like new.
+                    ElementTest::readError(used, sample.xml);
+                    if (ElementTest::written(used, tag()) != ElementTest::written(fresh, tag())) {
+                        // But for what reset() leaves: an order of the best sensor coverage in its command.
+                        QVERIFY2((std::is_same_v<T, XmlCmdCalc>), name);
+                    }
+                }
+            }
+            if (isKeeping)
+                keeping.append(QLatin1String(name));
+        });
+        QCOMPARE(keeping, keepingClasses());
+    }
+
+    void readingThatFails()
+    {
+        Samples::forEachClass([](auto type, const char* name) {
+            using T = typename decltype(type)::Type;
+            int failures = 0;
+            for (const Samples::Sample& sample : Samples::samplesOf<T>()) {
+                for (const int cut : cutsOf(sample.xml)) {
+                    const QString damaged = sample.xml.left(cut);
+                    for (const bool isNew : {true, false}) {
+                        T element = isNew ? Generator::newObject<T>(true) : generatedCommand<T>(cut);
+                        const QString error = ElementTest::readError(element, damaged);
+                        QVERIFY2(!error.isEmpty(), qPrintable(damaged));
+                        ++failures;
+                        use(element);
+                        // Again, and without a reset: what the failure left is no hindrance.
+                        ElementTest::readError(element, damaged);
+                        ElementTest::readError(element, sample.xml);
+                        use(element);
+                        const QString again = ElementTest::readError(element, sample.xml);
+                        QVERIFY2(again == sample.error, qPrintable(damaged + again));
+                        // An order of the best sensor coverage stays in its command.
+                        if (!sample.finish && !std::is_same_v<T, XmlCmdCalc>)
+                            QVERIFY2(ElementTest::written(element, Samples::tagOf(sample)) == sample.expected(), name);
+                    }
+                }
+            }
+            QVERIFY2(failures > 0, name);
+        });
+    }
+
+    void containers()
+    {
+        Samples::forEachClass([](auto type, const char* name) {
+            using T = typename decltype(type)::Type;
+            std::vector<T> vector;
+            QList<T> list;
+            QStringList expected;
+            for (int number = 0; number < objectsOfAClass; ++number) {
+                T object = generated<T>(number, number % 2 == 0 ? Validity::Valid : Validity::Faulty);
+                expected.append(shown(object));
+                list.append(object);
+                vector.push_back(std::move(object)); // moves all of them about when it grows
+                Samples::reset(object);
+                object = list.last();
+                QVERIFY2(shown(object) == expected.last(), name);
+            }
+            const auto verify = [&](const auto& container) {
+                int index = 0;
+                for (const T& object : container)
+                    QVERIFY2(shown(object) == expected.at(index++), name);
+            };
+            verify(vector);
+            verify(list);
+
+            std::rotate(vector.begin(), vector.begin() + 1, vector.end());
+            std::reverse(list.begin(), list.end());
+            std::reverse(list.begin(), list.end());
+            expected.append(expected.takeFirst());
+            verify(vector);
+            list.append(list.takeFirst());
+            QList<T> shared(list);
+            shared.removeLast();
+            verify(list);
+            vector.erase(vector.begin());
+            vector.insert(vector.begin(), list.first());
+            verify(vector);
+
+            T& first = vector[0];
+            T& second = vector[1];
+            std::swap(first, second);
+            QVERIFY2(shown(first) == expected.at(1) && shown(second) == expected.at(0), name);
+            std::swap(first, second);
+            T& itself = first;
+            std::swap(first, itself);
+            verify(vector);
+
+            std::optional<T> optional(std::move(first));
+            QVERIFY2(shown(*optional) == expected.at(0), name);
+            optional = std::move(second); // into one that holds something
+            QVERIFY2(shown(*optional) == expected.at(1), name);
+            std::optional<T> other(std::move(optional));
+            optional = list.first();
+            optional.swap(other);
+            QVERIFY2(shown(*optional) == expected.at(1) && shown(*other) == expected.at(0), name);
+            other.reset();
+            QVERIFY2(shown(*optional) == expected.at(1), name);
+
+            // Those that were moved from can be reset, and assigned to with or without that.
+            Samples::reset(first);
+            first = list.at(0);
+            second = std::move(*optional);
+            verify(vector);
+            *optional = second;
+            use(*optional);
+            verify(vector);
+        });
+    }
+
+private:
+    /// Of the class that need not be a command, one that is.
+    template <typename T>
+    static T generatedCommand(int number)
+    {
+        T object = generated<T>(number);
+        return isCommand(object) ? object : generatedCommand<T>(number + 1);
+    }
+    template <typename T>
+    static bool isCommand(const T& object)
+    {
+        if constexpr (std::is_same_v<T, XmlPropModelType>)
+            return object.isCommand();
+        else
+            return true;
+    }
+};
+
+QTEST_APPLESS_MAIN(LifetimeTest)
+#include "lifetime_test.moc"
