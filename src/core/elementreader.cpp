@@ -19,9 +19,10 @@ const QXmlStreamAttribute* ElementReader::attributeNamed(const QString& name)
 {
     if (!m_attributes)
         m_attributes = m_reader.attributes();
-    for (auto attribute = m_attributes->constBegin(); attribute != m_attributes->constEnd(); ++attribute) {
-        if (isSameText(attribute->qualifiedName(), name))
-            return attribute;
+    const QXmlStreamAttributes& attributes = *m_attributes;
+    for (const QXmlStreamAttribute& attribute : attributes) {
+        if (isSameText(attribute.qualifiedName(), name))
+            return &attribute;
     }
     return nullptr;
 }
@@ -34,7 +35,7 @@ StreamText ElementReader::attribute(const QString& name)
 
 StreamText ElementReader::requireAttribute(const QString& name)
 {
-    const StreamText text = attribute(name);
+    StreamText text = attribute(name);
     if (text.isEmpty())
         fail(QStringLiteral("Missing attribute: \"%1\"").arg(name));
     return text;

@@ -74,18 +74,17 @@ std::optional<double> quotient(quint64 digits, std::size_t decimals)
         const Wide dividend = Wide(digits) << shift;
         Wide result = dividend / divisor;
         const bool remains = result * divisor != dividend;
-        int exponent = -shift;
-        // Here digits are above 2^53 and the divisor below 2^50, so that at least two bits are too many.
-        int extra = -mantissaBits;
+        int bits = 0;
         for (Wide rest = result; rest != 0; rest >>= 1)
-            ++extra;
+            ++bits;
+        // Here digits are above 2^53 and the divisor below 2^50, so that at least two bits are too many.
+        const int extra = std::max(bits - mantissaBits, 1);
         const Wide half = Wide(1) << (extra - 1);
         const Wide cut = result & ((half << 1) - 1);
         result >>= extra;
-        exponent += extra;
         if (cut > half || (cut == half && (remains || (result & 1) != 0)))
             ++result;
-        return std::ldexp(static_cast<double>(static_cast<quint64>(result)), exponent);
+        return std::ldexp(static_cast<double>(static_cast<quint64>(result)), extra - shift);
     }
 #endif
     return {};
