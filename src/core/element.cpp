@@ -118,6 +118,7 @@ void XmlComposite::processXml(QXmlStreamReader& reader, const QString& tagName)
     Marks read = openElement(in);
 
     // Children come in the order of the form, as a rule: the row of the last one is looked at first.
+    // Where rows share a tag, their gates let only one of them be open.
     const Row* row = form.m_rows.data();
     const auto onStart = [&] {
         const auto name = reader.name();

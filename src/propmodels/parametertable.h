@@ -147,6 +147,7 @@ public:
     ParameterTable& reportedInOrder(std::vector<int> order)
     {
         m_reportOrder = std::move(order);
+        checkReportOrder();
         return *this;
     }
 
@@ -156,6 +157,9 @@ public:
     const std::vector<int>& reportOrder() const { return m_reportOrder; }
 
 private:
+    /// Every parameter must be named, a new one too.
+    void checkReportOrder() const { Q_ASSERT(m_reportOrder.size() == m_rows.size()); }
+
     std::vector<ParameterRow> m_rows;
     std::vector<int> m_reportOrder;
     bool m_isResetBeforeReading = true;
