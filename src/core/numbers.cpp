@@ -197,11 +197,14 @@ void writeDigits(QChar* end, quint64 number, int count)
     }
 }
 
+/// The text is shared with the next number that the thread writes, if it is gone by then: as a rule it is, and
+/// the memory serves again.
 QString text(bool isNegative, Decimal decimal, int decimals)
 {
+    thread_local QString text;
     const int integerDigits = digitsOf(decimal.integer);
     const int length = (isNegative ? 1 : 0) + integerDigits + (decimals > 0 ? 1 + decimals : 0);
-    QString text(length, Qt::Uninitialized);
+    text.resize(length);
     QChar* const begin = text.data();
     QChar* const end = begin + length;
     if (isNegative)

@@ -108,6 +108,7 @@ private Q_SLOTS:
     void powersWritten();
     void randomNumbersWritten();
     void literals();
+    void textsOfTheirOwn();
     void theShortWayIsTaken();
     void theShortWayIsLeft_data();
     void theShortWayIsLeft();
@@ -225,6 +226,18 @@ void NumbersTest::literals()
     QCOMPARE(numberText(1234567, {'g', 6}), QStringLiteral("1.23457e+06"));
     QCOMPARE(numberText(0.000012345678, {'g', 6}), QStringLiteral("1.23457e-05"));
     QCOMPARE(numberText(-2147483647 - 1), QStringLiteral("-2147483648"));
+}
+
+void NumbersTest::textsOfTheirOwn()
+{
+    // The memory of a text serves for the next one only when nobody holds it.
+    const QString longer = numberText(-123456.75, {'f', 6});
+    const QString shorter = numberText(1.5, {'f', 1});
+    const QString last = numberText(22, {'g', 6});
+    QCOMPARE(longer, QStringLiteral("-123456.750000"));
+    QCOMPARE(shorter, QStringLiteral("1.5"));
+    QCOMPARE(last, QStringLiteral("22"));
+    QCOMPARE(numberText(2.5, {'f', 1}) + numberText(33.25, {'f', 2}), QStringLiteral("2.533.25"));
 }
 
 void NumbersTest::theShortWayIsTaken()
