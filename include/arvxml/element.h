@@ -5,6 +5,7 @@
 
 #include <QtCore/QString>
 
+class QDebug;
 class QXmlStreamReader;
 class QXmlStreamWriter;
 
@@ -91,10 +92,15 @@ protected:
 
 private:
     friend class ElementReader;
+    friend ARVXML_EXPORT QDebug operator<<(QDebug debug, const XmlElementBase& element);
 
     QString m_className;
     QString m_syntaxError;
 };
+
+/// Shows an element on one line as the XML that it writes, valid or not. An element does not know its tag: it stands
+/// under the name by which messages call its class, as in `<XmlObjNameType>Site 1</XmlObjNameType>`.
+ARVXML_EXPORT QDebug operator<<(QDebug debug, const XmlElementBase& element);
 
 /// The base of all elements of the library: syntaxError() is told once.
 class ARVXML_EXPORT XmlElement : public XmlElementBase {

@@ -3,6 +3,7 @@
 #include "core/elementform.h"
 #include "core/enumeration.h"
 
+#include <QtCore/QDebug>
 #include <QtCore/QXmlStreamReader>
 #include <QtCore/QXmlStreamWriter>
 
@@ -61,6 +62,16 @@ QString XmlElementBase::mySyntaxError()
 {
     static const QString blockTemplate = QStringLiteral("+++ in %1 Begin:\n%2\n--- in %1 End");
     return m_syntaxError.isEmpty() ? QString() : blockTemplate.arg(m_className, m_syntaxError);
+}
+
+QDebug operator<<(QDebug debug, const XmlElementBase& element)
+{
+    QString xml;
+    QXmlStreamWriter writer(&xml);
+    element.produceXml(writer, element.classname());
+    const QDebugStateSaver saver(debug);
+    debug.noquote().nospace() << xml;
+    return debug;
 }
 
 QString XmlElement::syntaxError()

@@ -3,12 +3,14 @@
 #include <arvxml/coverageorders.h>
 #include <arvxml/element.h>
 #include <arvxml/geometry.h>
+#include <arvxml/names.h>
 #include <arvxml/orderdef.h>
 #include <arvxml/ownership.h>
 #include <arvxml/quantities.h>
 #include <arvxml/resultgrid.h>
 #include <arvxml/valuelists.h>
 
+#include <QtCore/QDebug>
 #include <QtCore/QVector>
 
 #include <memory>
@@ -853,6 +855,32 @@ private Q_SLOTS:
                  QStringLiteral("<L version=\"7\"><dBm version=\"8\" unit=\"dBm\">-5.000000000</dBm></L>"));
         QCOMPARE(list.checks(), 0);
         QVERIFY(list.mySyntaxError().isEmpty());
+    }
+
+    void debugOutput()
+    {
+        XmlObjNameType name;
+        name.setObjName(QStringLiteral("\"Hill\" & Dale"));
+        XmlReferenceType reference; // called otherwise in messages
+        XmlAreaRectType rectangle;  // with children, invalid as it is
+        XmlCoordinateType corner;
+        corner.setLongitude(8.5);
+        corner.setLatitude(47.4);
+        rectangle.setUpperLeft(corner);
+
+        QString shown;
+        QDebug(&shown) << "read" << name << 1 << static_cast<const XmlElementBase&>(reference);
+        QCOMPARE(shown,
+                 QStringLiteral("read <XmlObjNameType>&quot;Hill&quot; &amp; Dale</XmlObjNameType> 1 "
+                                "<XmlreferenceType></XmlreferenceType> "));
+        shown.clear();
+        QDebug(&shown).nospace() << rectangle << '|' << QStringLiteral("text");
+        QCOMPARE(shown,
+                 QStringLiteral("<XmlAreaRectType version=\"1.0\">"
+                                "<UpperLeft version=\"1.0\"><Longitude>8.500000</Longitude>"
+                                "<Latitude>47.400000</Latitude></UpperLeft>"
+                                "<LowerRight version=\"1.0\"><Longitude>-999.999000</Longitude>"
+                                "<Latitude>-999.999000</Latitude></LowerRight></XmlAreaRectType>|\"text\""));
     }
 
     void theProblemsFoundAreKept()
