@@ -4,6 +4,7 @@
 #include "core/texts.h"
 
 #include <QtCore/QString>
+#include <QtCore/QVarLengthArray>
 #include <QtCore/QXmlStreamReader>
 
 #include <optional>
@@ -48,7 +49,7 @@ public:
     ElementReader(XmlElementBase& element, QXmlStreamReader& reader, const QString& tagName, const Wording& wording)
         : m_element(element)
         , m_reader(reader)
-        , m_tagName(tagName)
+        , m_tagName(tagName.cbegin(), tagName.cend())
         , m_wording(wording)
         , m_atStartTag(reader.isStartElement())
     {
@@ -83,7 +84,7 @@ public:
     void refuseEnd() { refuseTag(m_wording.end); }
 
     /// Whether the stream stands on a tag of the element's own name.
-    bool atOwnTag() const { return isSameText(m_reader.name(), m_tagName); }
+    bool atOwnTag() const { return isSameText(m_reader.name(), QStringView(m_tagName.data(), m_tagName.size())); }
 
     /// Goes through the tokens of the element until \a onEnd says that it is complete, or an error
     /// ends the reading.
@@ -137,7 +138,9 @@ private:
 
     XmlElementBase& m_element;
     QXmlStreamReader& m_reader;
-    const QString m_tagName; // a copy: the caller's may be a text of the very element that is read
+    /// A copy, since the caller's may be a text of the very element that is read. A QString would share it, which
+    /// takes two atomic operations, more than these few characters.
+    const QVarLengthArray<QChar, 32> m_tagName;
     const Wording& m_wording;
     const bool m_atStartTag;
     bool m_hasFailed = false;
