@@ -37,6 +37,11 @@ const QString docs = QStringLiteral(DOCS_FOLDER);
 const QStringList guides = {QStringLiteral("getting-started.md"), QStringLiteral("documents.md"),
                             QStringLiteral("oddities.md"), QStringLiteral("errors.md")};
 
+/// A row of a table: a class, whatever, and a sample of it.
+const QRegularExpression sampleRow(QStringLiteral("^\\| `(Xml\\w+)` \\|.*\\| `(<[^`]+>)` \\|$"));
+/// A row of a table: a class, what it reads, and the error of the reader.
+const QRegularExpression errorRow(QStringLiteral("^\\| `(Xml\\w+)` \\| `(<[^`]+>)` \\| `([^`]+)` \\|"));
+
 const std::vector<Page>& pages()
 {
     static const std::vector<Page> all = [] {
@@ -248,11 +253,10 @@ private Q_SLOTS:
     // Rows of tables that begin with a class and end with a sample of it.
     void samplesInTables()
     {
-        static const QRegularExpression row(QStringLiteral("^\\| `(Xml\\w+)` \\|.*\\| `(<[^`]+>)` \\|$"));
         int count = 0;
         for (const Page& page : pages()) {
             for (const QString& line : page.prose) {
-                const QRegularExpressionMatch match = row.match(line);
+                const QRegularExpressionMatch match = sampleRow.match(line);
                 if (!match.hasMatch())
                     continue;
                 const QString xml = match.captured(2);
@@ -273,11 +277,10 @@ private Q_SLOTS:
     // Rows of tables that begin with a class, what it reads, and the error of the reader.
     void errorsInTables()
     {
-        static const QRegularExpression row(QStringLiteral("^\\| `(Xml\\w+)` \\| `(<[^`]+>)` \\| `([^`]+)` \\|"));
         int count = 0;
         for (const Page& page : pages()) {
             for (const QString& line : page.prose) {
-                const QRegularExpressionMatch match = row.match(line);
+                const QRegularExpressionMatch match = errorRow.match(line);
                 if (!match.hasMatch())
                     continue;
                 const Samples::Element element = newElement(match.captured(1));
@@ -287,6 +290,20 @@ private Q_SLOTS:
             }
         }
         QVERIFY(count > 0);
+    }
+
+    // Samples in the lines of a guide stand in such rows only.
+    void samplesInLines()
+    {
+        static const QRegularExpression sample(QStringLiteral("`<[^`]*(</|/>)[^`]*`"));
+        for (const Page& page : pages()) {
+            for (const QString& line : page.prose) {
+                if (guides.contains(nameOf(page)) && sample.match(line).hasMatch())
+                    QVERIFY2(sampleRow.match(line).hasMatch() || errorRow.match(line).hasMatch(), qPrintable(line));
+                QVERIFY2(!line.contains(QLatin1String("```")) && !line.contains(QLatin1String("~~~")),
+                         qPrintable(line)); // no other fences
+            }
+        }
     }
 
     void wire_data() { addBlocks("wire"); }
@@ -341,6 +358,7 @@ private Q_SLOTS:
         for (const Block& block : shown.blocks) {
             const QString where = QStringLiteral("%1:%2").arg(shown.path).arg(block.line);
             if (isProgram(block)) {
+                QVERIFY2(block.mark.size() == 2, qPrintable(where));
                 const QString name = block.mark.at(1);
                 const QString source = QStringLiteral("%1/%2.cpp").arg(built, name);
                 QCOMPARE(contentOf(source).trimmed(), block.text().trimmed());
