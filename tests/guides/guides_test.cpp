@@ -426,7 +426,7 @@ private Q_SLOTS:
             QCOMPARE(shown, table.value(one.name, one.name));
             differing += int(shown != one.name);
         }
-        QCOMPARE(differing, table.size());
+        QCOMPARE(differing, int(table.size()));
         QVERIFY(differing > 0);
     }
 
