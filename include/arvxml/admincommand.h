@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// The command that asks the service about itself.
+
 #include "arvxml/command.h"
 
 namespace ArvXml {
@@ -13,12 +16,15 @@ namespace ArvXml {
 /// "QueryVersion" is read as if it stood beside it.
 class ARVXML_EXPORT XmlCmdAdmin : public XmlCommand {
 public:
+    /// What is asked.
     enum AdminCmd : int {
-        AdminUndefined = 0,
-        AdminQueryVersion = 1,
+        AdminUndefined = 0,    ///< Nothing.
+        AdminQueryVersion = 1, ///< The version of the service, tag "QueryVersion".
     };
 
     XmlCmdAdmin();
+
+    /// What is asked; nothing on a new command.
     AdminCmd adminCmd() const { return m_command; }
 
     bool isValid() const override;

@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// Deployment areas and areas of interest.
+
 #include "arvxml/element.h"
 #include "arvxml/geometry.h"
 #include "arvxml/names.h"
@@ -15,16 +18,17 @@ namespace ArvXml {
 /// refused.
 class ARVXML_EXPORT XmlPlanArea : public XmlVersionedComposite {
 public:
+    /// The name, tag "Name".
     const XmlObjNameType* objName() const { return &m_objName; }
     void setObjName(const XmlObjNameType& objName) { m_objName = objName; }
 
     bool hasAreaRect() const { return m_areaRect.isPresent(); }
-    /// The rectangle, null when absent.
+    /// The rectangle, tag "AreaRect"; null when absent. Setting it removes the polygon.
     const XmlAreaRectType* areaRect() const { return m_areaRect.get(); }
     void setAreaRect(const XmlAreaRectType& rectangle);
 
     bool hasAreaPoly() const { return m_areaPoly.isPresent(); }
-    /// The polygon, null when absent.
+    /// The polygon, tag "AreaPolygon"; null when absent. Setting it removes the rectangle.
     const XmlAreaPolyType* areaPoly() const { return m_areaPoly.get(); }
     void setAreaPoly(const XmlAreaPolyType& polygon);
 
@@ -44,33 +48,41 @@ private:
 };
 
 /// A region in which sensors may be placed, and what is assumed for them there:
-/// `<DeploymentArea version="1.0"><SignalPath>...</SignalPath><Name>...</Name><AreaRect>...</AreaRect>
-/// <AntennaHeight .../><RxThreshold .../><Frequency .../><TxPower .../></DeploymentArea>`, with
-/// "AreaPolygon" for "AreaRect" as the case may be. Only the signal path is optional. Another version
-/// than "1.0" is refused while reading.
+/// \code{.xml}
+/// <DeploymentArea version="1.0">
+///     <SignalPath version="1.0">...</SignalPath>
+///     <Name>Hill</Name>
+///     <AreaRect version="1.0">...</AreaRect>
+///     <AntennaHeight version="1.0" unit="m">10</AntennaHeight>
+///     <RxThreshold version="1.0" unit="dBm">-100.000000000000000</RxThreshold>
+///     <Frequency version="1.0" unit="MHz">145.500000</Frequency>
+///     <TxPower version="1.0" unit="W">10.000000000000000</TxPower>
+/// </DeploymentArea>
+/// \endcode
+/// The children come in this order, with "AreaPolygon" for "AreaRect" as the case may be. Only the signal path is
+/// optional; reading reuses the one held. Another version than "1.0" is refused while reading.
 class ARVXML_EXPORT XmlDeploymentAreaType : public XmlPlanArea {
 public:
     XmlDeploymentAreaType();
 
     bool hasSignalPath() const { return m_signalPath.isPresent(); }
-    /// The signal path of the sensors, null when absent.
+    /// The signal path of the sensors, tag "SignalPath"; null when absent.
     const XmlSignalPathType* signalPath() const { return m_signalPath.get(); }
     void setSignalPath(const XmlSignalPathType& signalPath) { m_signalPath.set(signalPath); }
 
-    /// The height of the sensors' antennas.
+    /// The height of the sensors' antennas, tag "AntennaHeight". The setter is spelled "Angt".
     const XmlLengthType* antHgt() const { return &m_antennaHeight; }
-    /// Spelled "Angt".
     void setAngtHgt(const XmlLengthType& height) { m_antennaHeight = height; }
 
-    /// The threshold of the sensors' receivers.
+    /// The threshold of the sensors' receivers, tag "RxThreshold".
     const XmlFieldstrengthType* rxThresh() const { return &m_rxThreshold; }
     void setRxThresh(const XmlFieldstrengthType& threshold) { m_rxThreshold = threshold; }
 
-    /// The frequency on which the sensors transmit.
+    /// The frequency on which the sensors transmit, tag "Frequency".
     const XmlFreqType* txFreq() const { return &m_txFrequency; }
     void setTxFreq(const XmlFreqType& frequency) { m_txFrequency = frequency; }
 
-    /// The power with which the sensors transmit.
+    /// The power with which the sensors transmit, tag "TxPower".
     const XmlPowerType* txPower() const { return &m_txPower; }
     void setTxPower(const XmlPowerType& power) { m_txPower = power; }
 
@@ -86,19 +98,26 @@ private:
 };
 
 /// A region to be covered (area of interest), and what is assumed for the emitters in it:
-/// `<AOI version="1.0"><Name>...</Name><AreaPolygon>...</AreaPolygon><TxParameter>...</TxParameter>
-/// <RxThreshold .../></AOI>`, with "AreaRect" for "AreaPolygon" as the case may be. Only the threshold
-/// is optional. Another version than "1.0" is refused while reading.
+/// \code{.xml}
+/// <AOI version="1.0">
+///     <Name>Northern valley</Name>
+///     <AreaPolygon version="1.0">...</AreaPolygon>
+///     <TxParameter version="1.0">...</TxParameter>
+///     <RxThreshold version="1.0" unit="dBm">-100.000000000000000</RxThreshold>
+/// </AOI>
+/// \endcode
+/// The children come in this order, with "AreaRect" for "AreaPolygon" as the case may be. Only the threshold is
+/// optional; reading replaces the one held. Another version than "1.0" is refused while reading.
 class ARVXML_EXPORT XmlAoiType : public XmlPlanArea {
 public:
     XmlAoiType();
 
-    /// The parameters of the emitters.
+    /// The parameters of the emitters, tag "TxParameter".
     const XmlTxParamType* txParam() const { return &m_txParam; }
     void setTxParam(const XmlTxParamType& parameters) { m_txParam = parameters; }
 
     bool hasRxThreshold() const { return m_rxThreshold.isPresent(); }
-    /// The threshold of the receivers, null when absent; with a capital R.
+    /// The threshold of the receivers, tag "RxThreshold"; null when absent. The getter begins with a capital R.
     const XmlFieldstrengthType* RxThres() const { return m_rxThreshold.get(); }
     void setRxThres(const XmlFieldstrengthType& threshold) { m_rxThreshold.set(threshold); }
 

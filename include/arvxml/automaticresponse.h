@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// The service's answer to one command.
+
 #include "arvxml/element.h"
 #include "arvxml/gridresult.h"
 #include "arvxml/interlinkresult.h"
@@ -9,9 +12,14 @@
 
 namespace ArvXml {
 
-/// The service's answer to one command: `<Automatic status="ack">
-/// <CommandReference>42</CommandReference><EstimatedTime>2024-03-05T14:07:09</EstimatedTime>
-/// </Automatic>`. After the reference comes exactly one item: "ErrorMessage" (with status "fault"),
+/// The service's answer to one command:
+/// \code{.xml}
+/// <Automatic status="ack">
+///     <CommandReference>42</CommandReference>
+///     <EstimatedTime>2024-03-05T14:07:09</EstimatedTime>
+/// </Automatic>
+/// \endcode
+/// After the reference comes exactly one item: "ErrorMessage" (with status "fault"),
 /// "EstimatedTime", "ArvVersion", "GridResult" or "InterlinkResult" (with status "ack").
 ///
 /// An error message is written alone, else an estimated time alone; what else is held is dropped then.
@@ -25,11 +33,11 @@ namespace ArvXml {
 /// A result held is removed by reset() only; message, version and time go away with an empty value.
 class ARVXML_EXPORT XmlAutoRespType : public XmlComposite {
 public:
-    /// Texts "fault" and "ack".
+    /// How the command fared, with the texts.
     enum RespStatus : int {
-        StatusUndefined = 0,
-        StatusFault = 1,
-        StatusAck = 2,
+        StatusUndefined = 0, ///< Not told.
+        StatusFault = 1,     ///< "fault": it failed.
+        StatusAck = 2,       ///< "ack": it is acknowledged.
     };
 
     XmlAutoRespType();
@@ -43,28 +51,28 @@ public:
     void setReference(const XmlReferenceType& reference) { m_reference = reference; }
 
     bool hasErrorMessage() const { return !m_errorMessage.isEmpty(); }
-    /// What went wrong, empty for nothing.
+    /// What went wrong, tag "ErrorMessage"; empty for nothing.
     const QString& errorMessage() const { return m_errorMessage; }
     void setErrorMessage(const QString& message) { m_errorMessage = message; }
 
     bool hasEstimatedTime() const { return m_estimatedTime.isValid(); }
-    /// When the result is expected, invalid for no estimate; in ISO 8601 on the wire. A text of another
-    /// form is the reader error "Illegal dateTime format".
+    /// When the result is expected, tag "EstimatedTime"; invalid for no estimate, in ISO 8601 on the wire, written to
+    /// the second. A text of another form is the reader error "Illegal dateTime format".
     const QDateTime& estimatedTime() const { return m_estimatedTime; }
     void setEstimatedTime(const QDateTime& time) { m_estimatedTime = time; }
 
     bool hasArvVersion() const { return !m_arvVersion.isEmpty(); }
-    /// The service's version, the answer to a version query; empty for none.
+    /// The service's version, the answer to a version query, tag "ArvVersion"; empty for none.
     const QString& arvVersion() const { return m_arvVersion; }
     void setArvVersion(const QString& version) { m_arvVersion = version; }
 
     bool hasGridResult() const { return m_gridResult.isPresent(); }
-    /// The result of a calculation over an area, null when absent.
+    /// The result of a calculation over an area, tag "GridResult"; null when absent.
     const XmlGridResultType* gridResult() const { return m_gridResult.get(); }
     void setGridResult(const XmlGridResultType& result) { m_gridResult.set(result); }
 
     bool hasInterlinkResult() const { return m_interlinkResult.isPresent(); }
-    /// The result of interlink planning, null when absent.
+    /// The result of interlink planning, tag "InterlinkResult"; null when absent.
     const XmlInterlinkResultType* interlinkResult() const { return m_interlinkResult.get(); }
     void setInterlinkResult(const XmlInterlinkResultType& result) { m_interlinkResult.set(result); }
 

@@ -1,16 +1,19 @@
 #pragma once
 
+/// \file
+/// The command to calculate.
+
 #include "arvxml/command.h"
 #include "arvxml/coverageorders.h"
 #include "arvxml/siteorders.h"
 
 namespace ArvXml {
 
-/// The command to calculate: `<Calculate><CEP>...</CEP><Reference>42</Reference></Calculate>`, exactly
-/// one order, then the reference.
+/// The command to calculate, exactly one order, then the reference:
+/// `<Calculate><CEP>...</CEP><Reference>42</Reference></Calculate>`.
 ///
-/// All orders held are written, but a reader refuses the second. An order read replaces the one of its kind; reading
-/// does not reset the command first.
+/// All orders held are written, in the order of the accessors below, but a reader refuses the second. An order read
+/// replaces the one of its kind; reading does not reset the command first.
 class ARVXML_EXPORT XmlCmdCalc : public XmlChoiceCommand {
 public:
     XmlCmdCalc();

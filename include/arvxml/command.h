@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// What all commands have in common.
+
 #include "arvxml/element.h"
 #include "arvxml/names.h"
 #include "arvxml/orderdef.h"
@@ -18,7 +21,7 @@ public:
     void setCmdReference(const XmlReferenceType& reference) { m_reference = reference; }
 
     bool hasOrderDef() const { return m_orderDef.isPresent(); }
-    /// The envelope, null when absent.
+    /// The envelope of the command's document, null when absent.
     const XmlOrderDef* orderDef() const { return m_orderDef.get(); }
     void setOrderDef(const XmlOrderDef& orderDef) { m_orderDef.set(orderDef); }
 
@@ -32,8 +35,9 @@ protected:
     XmlReferenceType m_reference;
 };
 
-/// The base of the commands that hold exactly one thing out of several, followed by the reference. With
-/// none or more the problem reads "Too many or too few elements.". Setters fill the slot of their kind
+/// The base of the commands that hold exactly one thing out of several, followed by the reference.
+///
+/// With none or more the problem reads "Too many or too few elements.". Setters fill the slot of their kind
 /// and never clear another.
 class ARVXML_EXPORT XmlChoiceCommand : public XmlCommand {
 public:

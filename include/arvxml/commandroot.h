@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// The document element of command documents.
+
 #include "arvxml/admincommand.h"
 #include "arvxml/calccommand.h"
 #include "arvxml/createdelete.h"
@@ -8,9 +11,18 @@
 namespace ArvXml {
 
 /// The document element of a command document: an optional envelope, then the commands, each kind in
-/// a block of its own: `<Commands><ORDER_DEF>...</ORDER_DEF><Administrative>...</Administrative>
-/// <Create>...</Create><Delete>...</Delete><PropagationModel>...</PropagationModel>
-/// <Calculate>...</Calculate></Commands>`. The caller chooses its tag.
+/// a block of its own. The caller chooses its tag.
+/// \code{.xml}
+/// <Commands>
+///     <ORDER_DEF>...</ORDER_DEF>
+///     <Administrative>...</Administrative>
+///     <Create>...</Create>
+///     <Delete>...</Delete>
+///     <PropagationModel>...</PropagationModel>
+///     <Calculate>...</Calculate>
+/// </Commands>
+/// \endcode
+/// The blocks come in this order. All is optional; of every kind but the propagation model there may be any number.
 ///
 /// A root is filled by reading or copying only: a program that writes commands writes the document
 /// element itself, with the envelope and the commands as children. Each command read gets a copy of
@@ -21,7 +33,7 @@ public:
     XmlCmdRoot();
 
     bool hasOrderDef() const { return m_orderDef.isPresent(); }
-    /// The envelope, null when absent.
+    /// The envelope, tag "ORDER_DEF"; null when absent.
     const XmlOrderDef* orderDef() const { return m_orderDef.get(); }
     void setOrderDef(const XmlOrderDef& orderDef) { m_orderDef.set(orderDef); }
 
@@ -29,11 +41,11 @@ public:
     /// is reset, assigned to or destroyed.
     const QList<XmlCmdAdmin*> getAdministrativeCmds() const { return m_administrative.items(); }
     const QList<XmlCmdCreate*> getCreateCmds() const { return m_creates.items(); }
-    /// The delete commands; the root neither judges nor reports them.
+    /// As above; the root neither judges nor reports the delete commands.
     const QList<XmlCmdDelete*> getDeleteCmds() const { return m_deletes.items(); }
     const QList<XmlCmdCalc*> getCalculationCmds() const { return m_calculations.items(); }
 
-    /// The propagation model command, null when absent; one read replaces the one held.
+    /// The propagation model command, tag "PropagationModel"; null when absent. One read replaces the one held.
     const XmlPropModelType* getPropagationModelCmd() const { return m_propModel.get(); }
 
 protected:

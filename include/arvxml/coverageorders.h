@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// The calculation orders that ask for a result over areas of interest.
+
 #include "arvxml/element.h"
 #include "arvxml/names.h"
 #include "arvxml/resultgrid.h"
@@ -9,17 +12,17 @@ namespace ArvXml {
 /// The base of the orders that ask for a result over areas of interest: the sensors to use, the
 /// areas, and optionally the spacing of the result grid.
 ///
-/// Sensors and areas are always held, always written, and required on reading. A grid read replaces
-/// the one held; what the document does not mention stays as it was.
-/// Name lists grow when read again, until "All" empties them.
+/// Sensors and areas are always held, always written, and required on reading. A grid read replaces the one held;
+/// what the document does not mention stays as it was. Name lists grow when read again, until "All" empties them. The
+/// orders have no problems of their own, only those of their children.
 class ARVXML_EXPORT XmlCoverageOrder : public XmlComposite {
 public:
-    /// The areas of interest.
+    /// The areas of interest, tag "AOIs".
     const XmlNameAllMultiType* AOIs() const { return &m_areas; }
     void setAOIs(const XmlNameAllMultiType& areas) { m_areas = areas; }
 
     bool hasResultGrid() const { return m_resultGrid.isPresent(); }
-    /// The spacing of the result grid, null when absent.
+    /// The spacing of the result grid, tag "ResultGrid"; null when absent.
     const XmlResultGridType* resultGrid() const { return m_resultGrid.get(); }
     void setResultGrid(const XmlResultGridType& resultGrid) { m_resultGrid.set(resultGrid); }
 
@@ -33,20 +36,23 @@ protected:
 
 /// The probability level of a circular error, in percent: `<Probability>90</Probability>`.
 ///
-/// Texts "50", "66", "75", "90", "95"; another text is the reader error "Illegal enum value" (without
+/// The texts stand at the enumerators; another text is the reader error "Illegal enum value" (without
 /// a full stop). An undefined level is reported as "Illegal probability value.".
 class ARVXML_EXPORT XmlCepProbType : public XmlEnumeration {
 public:
+    /// The levels, with their texts.
     enum Prob : int {
-        Undefined = 0,
-        Prob50 = 1,
-        Prob66 = 2,
-        Prob75 = 3,
-        Prob90 = 4,
-        Prob95 = 5,
+        Undefined = 0, ///< None chosen.
+        Prob50 = 1,    ///< "50"
+        Prob66 = 2,    ///< "66"
+        Prob75 = 3,    ///< "75"
+        Prob90 = 4,    ///< "90"
+        Prob95 = 5,    ///< "95"
     };
 
     XmlCepProbType();
+
+    /// The level; Undefined by default.
     Prob prob() { return static_cast<Prob>(m_value); }
     Prob prob() const { return static_cast<Prob>(m_value); }
     void setProb(Prob prob) { m_value = prob; }
@@ -55,18 +61,25 @@ protected:
     const EnumerationRules& rules() const override;
 };
 
-/// The order of the circular error probable of direction-finding fixes: `<CEP><UseDFs>...</UseDFs>
-/// <AOIs>...</AOIs><Probability>90</Probability><ResultGrid>100</ResultGrid></CEP>`, the last two
-/// optional.
+/// The order of the circular error probable of direction-finding fixes, the last two children optional:
+/// \code{.xml}
+/// <CEP>
+///     <UseDFs><All/></UseDFs>
+///     <AOIs><Name>Northern valley</Name></AOIs>
+///     <Probability>90</Probability>
+///     <ResultGrid>100</ResultGrid>
+/// </CEP>
+/// \endcode
 class ARVXML_EXPORT XmlCepType : public XmlCoverageOrder {
 public:
     XmlCepType();
-    /// The direction finders to use.
+
+    /// The direction finders to use, tag "UseDFs".
     const XmlNameAllMultiType* useDFs() const { return &m_sensors; }
     void setUseDFs(const XmlNameAllMultiType& sensors) { m_sensors = sensors; }
 
     bool hasProbability() const { return m_probability.isPresent(); }
-    /// The probability level, null when absent.
+    /// The probability level, tag "Probability"; null when absent. Reading replaces the one held.
     const XmlCepProbType* probability() const { return m_probability.get(); }
     void setProbability(const XmlCepProbType& probability) { m_probability.set(probability); }
 
@@ -77,12 +90,19 @@ private:
     OptionalChild<XmlCepProbType> m_probability;
 };
 
-/// The order of the detection probability: `<DetectionProbability><UseRxDFs>...</UseRxDFs>
-/// <AOIs>...</AOIs><ResultGrid>100</ResultGrid></DetectionProbability>`, the grid optional.
+/// The order of the detection probability, the grid optional:
+/// \code{.xml}
+/// <DetectionProbability>
+///     <UseRxDFs><All/></UseRxDFs>
+///     <AOIs><Name>Northern valley</Name></AOIs>
+///     <ResultGrid>100</ResultGrid>
+/// </DetectionProbability>
+/// \endcode
 class ARVXML_EXPORT XmlDetectProbType : public XmlCoverageOrder {
 public:
     XmlDetectProbType();
-    /// The receivers and direction finders to use.
+
+    /// The receivers and direction finders to use, tag "UseRxDFs".
     const XmlNameAllMultiType* useRxDFs() const { return &m_sensors; }
     void setUseRxDFs(const XmlNameAllMultiType& sensors) { m_sensors = sensors; }
 
@@ -90,12 +110,19 @@ protected:
     const ElementForm& form() const override;
 };
 
-/// The order of the direction-finding coverage: `<DFcoverage><UseDFs>...</UseDFs><AOIs>...</AOIs>
-/// <ResultGrid>100</ResultGrid></DFcoverage>`, the grid optional.
+/// The order of the direction-finding coverage, the grid optional:
+/// \code{.xml}
+/// <DFcoverage>
+///     <UseDFs><All/></UseDFs>
+///     <AOIs><Name>Northern valley</Name></AOIs>
+///     <ResultGrid>100</ResultGrid>
+/// </DFcoverage>
+/// \endcode
 class ARVXML_EXPORT XmlDfCovType : public XmlCoverageOrder {
 public:
     XmlDfCovType();
-    /// The direction finders to use.
+
+    /// The direction finders to use, tag "UseDFs".
     const XmlNameAllMultiType* useDFs() const { return &m_sensors; }
     void setUseDFs(const XmlNameAllMultiType& sensors) { m_sensors = sensors; }
 
@@ -103,17 +130,25 @@ protected:
     const ElementForm& form() const override;
 };
 
-/// The order of the best sensor coverage: `<BestSensorCov><UseRxDFs>...</UseRxDFs><AOIs>...</AOIs>
-/// <ResultGrid>100</ResultGrid><Comment>...</Comment></BestSensorCov>`, the last two optional.
+/// The order of the best sensor coverage, the last two children optional:
+/// \code{.xml}
+/// <BestSensorCov>
+///     <UseRxDFs><All/></UseRxDFs>
+///     <AOIs><Name>Northern valley</Name></AOIs>
+///     <ResultGrid>100</ResultGrid>
+///     <Comment>first draft</Comment>
+/// </BestSensorCov>
+/// \endcode
 class ARVXML_EXPORT XmlBestSensorType : public XmlCoverageOrder {
 public:
     XmlBestSensorType();
-    /// The receivers and direction finders to use.
+
+    /// The receivers and direction finders to use, tag "UseRxDFs".
     const XmlNameAllMultiType* useRxDFs() const { return &m_sensors; }
     void setUseRxDFs(const XmlNameAllMultiType& sensors) { m_sensors = sensors; }
 
     bool hasComment() const { return m_comment.isPresent(); }
-    /// A comment of 1 to 128 characters, null when absent.
+    /// A comment of 1 to 128 characters, tag "Comment"; null when absent. Reading replaces the one held.
     const XmlObjNameType* comment() const { return m_comment.get(); }
     void setComment(const XmlObjNameType& comment) { m_comment.set(comment); }
 

@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// The commands to create and to delete planning objects.
+
 #include "arvxml/areas.h"
 #include "arvxml/command.h"
 #include "arvxml/devices.h"
@@ -22,8 +25,9 @@ protected:
 /// The command to create or replace one planning object:
 /// `<Create><Emitter version="1.0">...</Emitter><Reference>42</Reference></Create>`.
 ///
-/// Exactly one object, then the reference. A signal path is read under "Path" but written under
-/// "SignalPath", which the reader refuses: such a command cannot be read back.
+/// Exactly one object, then the reference; all objects held are written, in the order of the accessors below. A
+/// signal path is read under "Path" but written under "SignalPath", which the reader refuses: such a command cannot
+/// be read back.
 class ARVXML_EXPORT XmlCmdCreate : public XmlObjectCommand {
 public:
     XmlCmdCreate();
@@ -59,7 +63,7 @@ public:
     void setStation(const XmlStationType& object) { m_station.set(object); }
 
     bool hasSignalPath() const { return m_signalPath.isPresent(); }
-    /// The signal path, tag "Path" read, "SignalPath" written; null when absent.
+    /// The signal path, tag "Path" when read, "SignalPath" when written; null when absent.
     const XmlSignalPathType* signalPath() const { return m_signalPath.get(); }
     void setSignalPath(const XmlSignalPathType& object) { m_signalPath.set(object); }
 
@@ -85,7 +89,7 @@ private:
 /// The command to delete planning objects of one kind, one by its name or all:
 /// `<Delete><Emitter><Name>TX 1</Name></Emitter><Reference>42</Reference></Delete>`.
 ///
-/// Exactly one kind, then the reference.
+/// Exactly one kind, then the reference; all kinds held are written, in the order of the accessors below.
 class ARVXML_EXPORT XmlCmdDelete : public XmlObjectCommand {
 public:
     XmlCmdDelete();

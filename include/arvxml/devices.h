@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// Devices on a signal path, and lengths by key.
+
 #include "arvxml/element.h"
 #include "arvxml/names.h"
 #include "arvxml/quantities.h"
@@ -9,22 +12,24 @@ namespace ArvXml {
 
 /// What kind of device a device is: `<DeviceCategory>DF</DeviceCategory>`.
 ///
-/// Texts "Receiver", "PassiveAntennas", "Cable", "Other", "ActiveAntennas", "DF", in this order;
-/// another text is the reader error "Illegal enum value.". Undefined is reported as "Illegal Device
-/// Category.".
+/// The texts stand at the enumerators; another text is the reader error "Illegal enum value.". Undefined is
+/// reported as "Illegal Device Category.".
 class ARVXML_EXPORT XmlDeviceCategoryType : public XmlEnumeration {
 public:
+    /// The categories, with their texts. The order is the protocol's.
     enum Category : int {
-        Undefined = 0,
-        Receiver = 1,
-        PassiveAntennas = 2,
-        Cable = 3,
-        Other = 4,
-        ActiveAntennas = 5,
-        DF = 6,
+        Undefined = 0,       ///< None chosen.
+        Receiver = 1,        ///< "Receiver"
+        PassiveAntennas = 2, ///< "PassiveAntennas"
+        Cable = 3,           ///< "Cable"
+        Other = 4,           ///< "Other"
+        ActiveAntennas = 5,  ///< "ActiveAntennas"
+        DF = 6,              ///< "DF": a direction finder
     };
 
     XmlDeviceCategoryType();
+
+    /// The category; Undefined by default.
     Category category() const { return static_cast<Category>(m_value); }
     void setCategory(Category category) { m_value = category; }
 
@@ -33,22 +38,40 @@ protected:
 };
 
 /// A piece of equipment on a signal path, by the frequencies at which it is characterised and its
-/// values at them: `<Device version="1.0"><DeviceCategory>...</DeviceCategory><Name>...</Name>
-/// <Frequencies>...</Frequencies><Noises>...</Noises></Device>`.
+/// values at them:
+/// \code{.xml}
+/// <Device version="1.0">
+///     <DeviceCategory>Cable</DeviceCategory>
+///     <Name>RG 58</Name>
+///     <Frequencies version="1.0">...</Frequencies>
+///     <Attenuations version="1.0">...</Attenuations>
+/// </Device>
+/// \endcode
+/// Category, name and frequencies are required, in this order. The optional lists follow, written in the order of
+/// the accessors below. They must, on reading, form one of five sets:
+/// - Noises
+/// - Noises, KFactors, Gains, DBM
+/// - Noises, KFactors, Degrees, DBM
+/// - KFactors
+/// - Attenuations
 ///
-/// Category, name and frequencies are required. The optional lists must, on reading, form one of five
-/// sets: Noises; Noises, KFactors, Gains, DBM; Noises, KFactors, Degrees, DBM; KFactors; Attenuations.
 /// The two sets of four are read only with KFactors last (Noises, Gains, DBM, KFactors), but written
 /// with KFactors second: the library refuses what it wrote of them itself. Judging and writing do not
-/// look at the set. Another version than "1.0" is refused while reading.
+/// look at the set, and nothing ties it to the category. No list is removed but by reset(). Another version than
+/// "1.0" is refused while reading.
 class ARVXML_EXPORT XmlDeviceType : public XmlVersionedComposite {
 public:
     XmlDeviceType();
 
+    /// The category, tag "DeviceCategory".
     const XmlDeviceCategoryType* category() const { return &m_category; }
     void setCategory(const XmlDeviceCategoryType& category) { m_category = category; }
+
+    /// The name, tag "Name".
     const XmlObjNameType* objName() const { return &m_objName; }
     void setObjName(const XmlObjNameType& objName) { m_objName = objName; }
+
+    /// The frequencies to which the values in the lists belong, tag "Frequencies".
     const XmlFreqListType* frequencyList() const { return &m_frequencies; }
     void setFrequencyList(const XmlFreqListType& frequencies) { m_frequencies = frequencies; }
 
@@ -97,14 +120,14 @@ private:
     OptionalChild<XmlDBMListType> m_levels;
 };
 
-/// Devices: `<Device version="1.0"><Device .../><Device .../></Device>`, at least one ("Too few devices
-/// (min. 1)").
+/// Devices, at least one ("Too few devices (min. 1)"). In a signal path, list and items have the same tag:
+/// `<Device version="1.0"><Device version="1.0">...</Device></Device>`.
 class ARVXML_EXPORT XmlDeviceListType : public XmlList {
 public:
     XmlDeviceListType();
-    /// The devices, owned by the list.
+
+    /// The devices, owned by the list. The setter replaces them by copies of the given ones.
     const QList<XmlDeviceType*>& deviceList() const { return m_items.items(); }
-    /// Replaces the devices by copies of the given ones, which stay the caller's.
     void setDeviceList(const QList<XmlDeviceType*>& devices) { m_items.set(devices); }
 
 protected:
@@ -114,21 +137,30 @@ private:
     OwnedList<XmlDeviceType> m_items;
 };
 
-/// A length for a key: read as `<Map version="1.0"><Key>3</Key><Value unit="m">12</Value></Map>`.
-///
+/// A length for a key, both required, in this order. It is read as
+/// \code{.xml}
+/// <Map version="1.0">
+///     <Key>3</Key>
+///     <Value version="1.0" unit="m">12</Value>
+/// </Map>
+/// \endcode
 /// A value before the key is read, but then the key is refused.
 ///
-/// It is written with the value twice, under "Key" and under "Value"; the key is never written. The key
-/// does not count for isValid(), though syntaxError() reports it. Another version than "1.0" is refused
-/// while reading.
+/// It is written with the value twice, under "Key" and under "Value"; the key is never written. Read back, the length
+/// is the key. The key does not count for isValid(), though syntaxError() reports it. Another version than "1.0" is
+/// refused while reading.
 ///
 /// reset() removes key and value: their getters then return null, nothing of them is written, and the
 /// entry is invalid without a problem being told, until they are set or read again.
 class ARVXML_EXPORT XmlMapType : public XmlVersionedComposite {
 public:
     XmlMapType();
+
+    /// The key; null after reset().
     const XmlKeyType* key() const { return m_key.get(); }
     void setKey(const XmlKeyType& key) { m_key.set(key); }
+
+    /// The length; null after reset().
     const XmlLengthType* value() const { return m_value.get(); }
     void setValue(const XmlLengthType& value) { m_value.set(value); }
 
@@ -142,14 +174,14 @@ private:
     OptionalChild<XmlLengthType> m_value;
 };
 
-/// Lengths by key, for antenna heights and cable lengths:
-/// `<AntHgtMap version="1.0"><Map .../></AntHgtMap>`, at least one ("Too few mappings (min. 1)").
+/// Lengths by key, for antenna heights and cable lengths, at least one ("Too few mappings (min. 1)"). Read as
+/// `<AntHgtMap version="1.0"><Map version="1.0">...</Map></AntHgtMap>`; what is written is told at XmlMapType.
 class ARVXML_EXPORT XmlMapListType : public XmlList {
 public:
     XmlMapListType();
-    /// The entries, owned by the list.
+
+    /// The entries, owned by the list. The setter replaces them by copies of the given ones.
     const QList<XmlMapType*>& mapList() const { return m_items.items(); }
-    /// Replaces the entries by copies of the given ones, which stay the caller's.
     void setMapList(const QList<XmlMapType*>& entries) { m_items.set(entries); }
 
 protected:

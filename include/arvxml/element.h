@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// What every element can do, and the bases that carry it out.
+
 #include "arvxml/export.h"
 #include "arvxml/ownership.h"
 
@@ -66,15 +69,17 @@ protected:
 };
 
 /// The base of every element: its class name, as messages show it, and the problems found by the
-/// last syntaxError().
+/// last syntaxError(), which reset() forgets.
 class ARVXML_EXPORT XmlElementBase : public IXmlElement {
 public:
+    /// An element that messages call \a className.
     explicit XmlElementBase(const QString& className);
+    /// Copies take over the class name and the problems found.
     XmlElementBase(const XmlElementBase& other);
     ~XmlElementBase() override;
+    /// Takes over the class name and the problems found.
     XmlElementBase& operator=(const XmlElementBase& other);
 
-    /// Forgets the problems found by the last syntaxError().
     void reset() override;
 
 protected:
@@ -117,11 +122,12 @@ protected:
 /// The version of a versioned element: attribute "version", by default and only supported "1.0".
 ///
 /// Some elements refuse another version while reading ("Version not supported: 2.0"); in the others
-/// it is read and reported by isValid() and syntaxError() (`Version "2.0" not supported`).
+/// it is read and reported by isValid() and syntaxError() (`Version "2.0" not supported`). An attribute that is
+/// missing or empty stands for "1.0".
 class ARVXML_EXPORT XmlVersioned {
 public:
+    /// The version; stored without checking it.
     QString version() const { return m_version; }
-    /// Stores \a version without checking it.
     void setVersion(const QString& version) { m_version = version; }
 
 protected:
@@ -148,9 +154,11 @@ private:
     QString m_version;
 };
 
-/// The base of the elements whose content is child elements. What such an element looks like on the
-/// wire is told once, by its form: the tags in the order of writing, what holds them, and what may
-/// follow what. The operations here carry a form out; a class overrides those in which it departs.
+/// The base of the elements whose content is child elements.
+///
+/// What such an element looks like on the wire is told once, by its form: the tags in the order of writing, what
+/// holds them, and what may follow what. The operations here carry a form out; a class overrides those in which it
+/// departs.
 class ARVXML_EXPORT XmlComposite : public XmlElement {
 public:
     void processXml(QXmlStreamReader& reader, const QString& tagName) override;
@@ -206,10 +214,11 @@ protected:
     quint32 openElement(ElementReader& in) override;
 };
 
-/// The base of the elements whose content is one text out of a list. Value 0 means that none is
-/// chosen; it is never read, makes the element invalid, and is written as "UNDEFINED", as is every
-/// value outside the list. Texts are compared exactly: case and blanks count. Each piece of text is
-/// taken for itself (a comment cuts a text in two); an element without text keeps its value.
+/// The base of the elements whose content is one text out of a list.
+///
+/// Value 0 means that none is chosen; it is never read, makes the element invalid, and is written as "UNDEFINED", as
+/// is every value outside the list. Texts are compared exactly: case and blanks count. Each piece of text is taken
+/// for itself (a comment cuts a text in two); an element without text keeps its value.
 class ARVXML_EXPORT XmlEnumeration : public XmlElement {
 public:
     void processXml(QXmlStreamReader& reader, const QString& tagName) override;

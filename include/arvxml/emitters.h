@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// Emitters, direction finders and the precision of bearings.
+
 #include "arvxml/element.h"
 #include "arvxml/geometry.h"
 #include "arvxml/names.h"
@@ -16,6 +19,8 @@ namespace ArvXml {
 class ARVXML_EXPORT XmlDfPrecisionType : public XmlReadUnitQuantity {
 public:
     XmlDfPrecisionType();
+
+    /// The precision in degrees.
     int precision() const { return static_cast<int>(m_value); }
     void setPrecision(int precision) { m_value = precision; }
 
@@ -23,11 +28,15 @@ protected:
     const QuantityRules& rules() const override;
 };
 
-/// The base of the named sites of a plan: a name and a position.
+/// The base of the named sites of a plan: a name and a position. A position before the name is read, but then the
+/// name is refused. Another version than "1.0" is refused while reading.
 class ARVXML_EXPORT XmlSite : public XmlVersionedComposite {
 public:
+    /// The name, tag "Name".
     const XmlObjNameType* objName() const { return &m_objName; }
     void setObjName(const XmlObjNameType& objName) { m_objName = objName; }
+
+    /// The position, tag "Position".
     const XmlCoordinateType* position() const { return &m_position; }
     void setPosition(const XmlCoordinateType& position) { m_position = position; }
 
@@ -38,12 +47,19 @@ protected:
     XmlCoordinateType m_position;
 };
 
-/// A known transmitter: `<Emitter version="1.0"><Name>...</Name><Position .../><TxParameter .../>
-/// </Emitter>`, all required. A position before the name is read, but then the name is refused. Another version than
-/// "1.0" is refused while reading.
+/// A known transmitter; all children are required, in this order:
+/// \code{.xml}
+/// <Emitter version="1.0">
+///     <Name>TX 1</Name>
+///     <Position version="1.0">...</Position>
+///     <TxParameter version="1.0">...</TxParameter>
+/// </Emitter>
+/// \endcode
 class ARVXML_EXPORT XmlEmitterType : public XmlSite {
 public:
     XmlEmitterType();
+
+    /// The parameters of the transmitter, tag "TxParameter".
     const XmlTxParamType* txParam() const { return &m_txParam; }
     void setTxParam(const XmlTxParamType& parameters) { m_txParam = parameters; }
 
@@ -54,19 +70,31 @@ private:
     XmlTxParamType m_txParam;
 };
 
-/// A direction finder: `<DF version="1.0"><Name>...</Name><Position .../><RxParameter .../>
-/// <DFprecision .../><StationInterlink .../></DF>`, the interlink optional. A position before the name is
-/// read, but then the name is refused. Another version than "1.0" is refused while reading.
+/// A direction finder; the children come in this order, the interlink optional:
+/// \code{.xml}
+/// <DF version="1.0">
+///     <Name>DF 1</Name>
+///     <Position version="1.0">...</Position>
+///     <RxParameter version="1.0">...</RxParameter>
+///     <DFprecision version="1.0" unit="°">3</DFprecision>
+///     <StationInterlink version="1.0">...</StationInterlink>
+/// </DF>
+/// \endcode
+/// What the library writes with an interlink cannot be read back; see XmlStationInterlinkType.
 class ARVXML_EXPORT XmlDfType : public XmlSite {
 public:
     XmlDfType();
+
+    /// The parameters of the receiver, tag "RxParameter".
     const XmlRxParamType* rxParam() const { return &m_rxParam; }
     void setRxParam(const XmlRxParamType& parameters) { m_rxParam = parameters; }
+
+    /// The precision of the bearings, tag "DFprecision".
     const XmlDfPrecisionType* dfPrecision() const { return &m_dfPrecision; }
     void setDfPrecision(const XmlDfPrecisionType& precision) { m_dfPrecision = precision; }
 
     bool hasInterlink() const { return m_interlink.isPresent(); }
-    /// The link to the network, null when absent. Reading replaces the one held.
+    /// The link to the network, tag "StationInterlink"; null when absent. Reading replaces the one held.
     const XmlStationInterlinkType* interlink() const { return m_interlink.get(); }
     void setInterlink(const XmlStationInterlinkType& interlink) { m_interlink.set(interlink); }
 

@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// What the shared library shows to its users.
+
 #include <QtCore/qglobal.h>
 
 /// Marks what the shared library shows to its users; everything else in it is hidden.

@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// The parameter of free space.
+
 #include "arvxml/parameterset.h"
 
 namespace ArvXml {
@@ -8,7 +11,7 @@ namespace ArvXml {
 /// `<PropertiesFreespace><K-factor>1.3333</K-factor></PropertiesFreespace>`.
 ///
 /// The K-factor may be repeated, and the last one counts. Reading does not reset the set: what the document
-/// does not mention stays.
+/// does not mention stays. Problem: "K-factor out of bounds".
 class ARVXML_EXPORT XmlPropModelFSType : public XmlParameterSet {
 public:
     XmlPropModelFSType();

@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// Positions, and the two shapes of areas: rectangles and polygons.
+
 #include "arvxml/element.h"
 
 #include <QtCore/QVector>
@@ -7,16 +10,24 @@
 namespace ArvXml {
 
 /// A position in degrees, east and north positive:
-/// `<Position version="1.0"><Longitude>8.500000</Longitude><Latitude>47.400000</Latitude></Position>`.
-///
+/// \code{.xml}
+/// <Position version="1.0">
+///     <Longitude>8.500000</Longitude>
+///     <Latitude>47.400000</Latitude>
+/// </Position>
+/// \endcode
 /// Both are required, in this order, and -999.999 (invalid) by default. Valid from -180.0 to 180.0
 /// ("Longitude out of bounds") and -90.0 to 90.0 ("Latitude out of bounds"). A text that is no number
 /// reads as 0.0 without an error. Another version than "1.0" is refused while reading.
 class ARVXML_EXPORT XmlCoordinateType : public XmlVersionedComposite {
 public:
     XmlCoordinateType();
+
+    /// The longitude in degrees, east positive.
     double longitude() const { return m_longitude; }
     void setLongitude(double longitude) { m_longitude = longitude; }
+
+    /// The latitude in degrees, north positive.
     double latitude() const { return m_latitude; }
     void setLatitude(double latitude) { m_latitude = latitude; }
 
@@ -32,15 +43,21 @@ private:
     double m_latitude;
 };
 
-/// A numbered vertex of a polygon: `<Vertex version="1.0" number="0"><Longitude>...</Longitude>
-/// <Latitude>...</Latitude></Vertex>`.
-///
+/// A numbered vertex of a polygon:
+/// \code{.xml}
+/// <Vertex version="1.0" number="0">
+///     <Longitude>8.500000</Longitude>
+///     <Latitude>47.400000</Latitude>
+/// </Vertex>
+/// \endcode
 /// The attribute "number" is required ("Missing attribute: "number"", "Illegal attribute value (must
 /// be numeric)"); -9999 by default, valid from 0 on ("(XmlNumCoordType) Number attribute too small
 /// (min. 0)"). Messages call the class "XmlCoordinateType".
 class ARVXML_EXPORT XmlNumCoordType : public XmlCoordinateType {
 public:
     XmlNumCoordType();
+
+    /// The number of the vertex, attribute "number".
     int number() const { return m_number; }
     void setNumber(int number) { m_number = number; }
 
@@ -56,16 +73,30 @@ private:
     int m_number;
 };
 
-/// A rectangle given by two corners: `<AreaRect version="1.0"><UpperLeft version="1.0">...
-/// </UpperLeft><LowerRight version="1.0">...</LowerRight></AreaRect>`, both required, in this order.
-///
+/// A rectangle given by two corners, both required, in this order:
+/// \code{.xml}
+/// <AreaRect version="1.0">
+///     <UpperLeft version="1.0">
+///         <Longitude>8.500000</Longitude>
+///         <Latitude>47.400000</Latitude>
+///     </UpperLeft>
+///     <LowerRight version="1.0">
+///         <Longitude>8.600000</Longitude>
+///         <Latitude>47.300000</Latitude>
+///     </LowerRight>
+/// </AreaRect>
+/// \endcode
 /// How the corners lie to each other is not checked. Another version than "1.0" is refused while
 /// reading.
 class ARVXML_EXPORT XmlAreaRectType : public XmlVersionedComposite {
 public:
     XmlAreaRectType();
+
+    /// The north-western corner, tag "UpperLeft".
     const XmlCoordinateType* upperLeft() const { return &m_upperLeft; }
     void setUpperLeft(const XmlCoordinateType& corner) { m_upperLeft = corner; }
+
+    /// The south-eastern corner, tag "LowerRight".
     const XmlCoordinateType* lowerRight() const { return &m_lowerRight; }
     void setLowerRight(const XmlCoordinateType& corner) { m_lowerRight = corner; }
 
@@ -78,14 +109,20 @@ private:
 };
 
 /// A polygon of numbered vertices, held and written in ascending order of their numbers:
-/// `<AreaPolygon version="1.0"><Vertex version="1.0" number="0">...</Vertex>...</AreaPolygon>`.
-///
-/// Reading requires three vertices in any order; vertices held before are kept. Judging requires
+/// \code{.xml}
+/// <AreaPolygon version="1.0">
+///     <Vertex version="1.0" number="0"><Longitude>8.500000</Longitude><Latitude>47.400000</Latitude></Vertex>
+///     <Vertex version="1.0" number="1"><Longitude>8.600000</Longitude><Latitude>47.400000</Latitude></Vertex>
+///     <Vertex version="1.0" number="2"><Longitude>8.600000</Longitude><Latitude>47.300000</Latitude></Vertex>
+/// </AreaPolygon>
+/// \endcode
+/// Reading requires three vertices in any order; vertices held before are kept, and count. Judging requires
 /// none, but numbers that ascend without repetition from 0 or more ("Illegal numbering."). Another
 /// version than "1.0" is refused while reading.
 class ARVXML_EXPORT XmlAreaPolyType : public XmlVersionedComposite {
 public:
     XmlAreaPolyType();
+
     /// The vertices in order; they belong to the polygon. Changing a number does not move a vertex.
     QVector<XmlNumCoordType*> vertices() const { return m_vertices.items(); }
     /// Replaces the vertices by copies of the given ones, each put in its place by its number;

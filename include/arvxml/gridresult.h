@@ -1,14 +1,28 @@
 #pragma once
 
+/// \file
+/// The results of calculations over an area, and the range of a grid's values.
+
 #include "arvxml/coverageorders.h"
 #include "arvxml/element.h"
 #include "arvxml/siteorders.h"
 
 namespace ArvXml {
 
-/// The result of a calculation over an area: `<GridResult type="CEP"><CEP><Parameter>...</Parameter>
-/// <ScreenshotFilename>cep.png</ScreenshotFilename></CEP></GridResult>`. The parameters repeat the
-/// order; the picture is a file of the service's, of which only the name is carried.
+/// The result of a calculation over an area:
+/// \code{.xml}
+/// <GridResult type="CEP">
+///     <CEP>
+///         <Parameter>
+///             <UseDFs><All/></UseDFs>
+///             <AOIs><Name>Northern valley</Name></AOIs>
+///         </Parameter>
+///         <ScreenshotFilename>cep.png</ScreenshotFilename>
+///     </CEP>
+/// </GridResult>
+/// \endcode
+/// The parameters repeat the order, in a wrapper with its tag; the picture is a file of the service's, of which only
+/// the name is carried.
 ///
 /// Reading never succeeds. In a complete document it stops behind "Parameter": the parameters are read,
 /// but are told the tag of the wrapper ("CEP") as theirs, and so refuse the end tag of "Parameter"
@@ -20,17 +34,18 @@ namespace ArvXml {
 /// beyond the known ones is invalid without a problem being told.
 class ARVXML_EXPORT XmlGridResultType : public XmlComposite {
 public:
-    /// Texts "FindSites", "CEP", "DetectProb", "DfCoverage", "BestSensorCov".
+    /// What was calculated, with the texts of the attribute and the wrapper.
     enum ResultType : int {
-        ResultUndefined = 0,
-        ResultFindSites = 1,
-        ResultCep = 2,
-        ResultDetectProb = 3,
-        ResultDfCoverage = 4,
-        ResultBestSensorCov = 5,
+        ResultUndefined = 0,     ///< Not told.
+        ResultFindSites = 1,     ///< "FindSites", wrapper "FindPossibleSites"
+        ResultCep = 2,           ///< "CEP", wrapper "CEP"
+        ResultDetectProb = 3,    ///< "DetectProb", wrapper "DetectionProbability"
+        ResultDfCoverage = 4,    ///< "DfCoverage", wrapper "DFcoverage"
+        ResultBestSensorCov = 5, ///< "BestSensorCov", wrapper "BestSensorCov"
     };
 
     XmlGridResultType();
+
     /// Attribute "type"; an unknown text is the reader error "Illegal attribute value in "type"". An
     /// undefined type is written as "UNDEFINED", which no reader accepts.
     ResultType type() const { return m_type; }
@@ -61,7 +76,7 @@ public:
     bool hasBestSensor() const { return m_bestSensor.isPresent(); }
     void setBestSensor(const XmlBestSensorType& parameters) { m_bestSensor.set(parameters); }
 
-    /// The name of the picture's file; it is written into every wrapper.
+    /// The name of the picture's file, tag "ScreenshotFilename"; it is written into every wrapper.
     const QString& screenshotFilename() const { return m_screenshotFilename; }
     void setScreenshotFilename(const QString& filename) { m_screenshotFilename = filename; }
 
@@ -99,11 +114,16 @@ private:
 class ARVXML_EXPORT XmlGridValuesType : public XmlVersionedComposite {
 public:
     XmlGridValuesType();
-    /// The unit of the values, a free text.
+
+    /// The unit of the values, attribute "unit": a free text, empty (and invalid) by default.
     const QString& unit() const { return m_unit; }
     void setUnit(const QString& unit) { m_unit = unit; }
+
+    /// The smallest value, tag "Min"; 0.0 by default.
     double min() const { return m_min; }
     void setMin(double min) { m_min = min; }
+
+    /// The greatest value, tag "Max"; 0.0 by default.
     double max() const { return m_max; }
     void setMax(double max) { m_max = max; }
 

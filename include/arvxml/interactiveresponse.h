@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// Results that the service delivers on its own.
+
 #include "arvxml/element.h"
 #include "arvxml/emitters.h"
 #include "arvxml/gridresult.h"
@@ -59,12 +62,12 @@ public:
     XmlInteractRespType();
 
     bool hasGridResult() const { return m_gridResult.isPresent(); }
-    /// The result of a calculation over an area, null when absent.
+    /// The result of a calculation over an area, tag "GridResult"; null when absent.
     const XmlGridResultType* gridResult() const { return m_gridResult.get(); }
     void setGridResult(const XmlGridResultType& result) { m_gridResult.set(result); }
 
     bool hasInterlinkResult() const { return m_interlinkResult.isPresent(); }
-    /// The result of interlink planning, null when absent.
+    /// The result of interlink planning, tag "InterlinkResult"; null when absent.
     const XmlInterlinkResultType* interlinkResult() const { return m_interlinkResult.get(); }
     void setInterlinkResult(const XmlInterlinkResultType& result) { m_interlinkResult.set(result); }
 

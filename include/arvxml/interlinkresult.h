@@ -1,28 +1,42 @@
 #pragma once
 
+/// \file
+/// The result of interlink planning.
+
 #include "arvxml/element.h"
 #include "arvxml/siteorders.h"
 
 namespace ArvXml {
 
-/// The result of interlink planning: `<InterlinkResult><Parameters>...</Parameters><Result>
-/// <Text>feasible</Text><ScreenshotFilename>link.png</ScreenshotFilename></Result></InterlinkResult>`,
-/// the file name optional.
-///
+/// The result of interlink planning, the file name optional:
+/// \code{.xml}
+/// <InterlinkResult>
+///     <Parameters>
+///         <FirstName>Site 1</FirstName>
+///         <SecondName>Site 2</SecondName>
+///     </Parameters>
+///     <Result>
+///         <Text>feasible</Text>
+///         <ScreenshotFilename>link.png</ScreenshotFilename>
+///     </Result>
+/// </InterlinkResult>
+/// \endcode
 /// On reading, the parameters come before the "Result" with the text, and a file name without a text is
 /// refused at the end tag. Valid with valid parameters and a text ("Missing Result Text").
 class ARVXML_EXPORT XmlInterlinkResultType : public XmlComposite {
 public:
     XmlInterlinkResultType();
-    /// The order's parameters, repeated.
+
+    /// The order's parameters, repeated; tag "Parameters".
     const XmlInterlinkPlanningType* parameters() const { return &m_parameters; }
     void setParameters(const XmlInterlinkPlanningType& parameters) { m_parameters = parameters; }
 
+    /// What came out, tag "Text": at least one character.
     const QString& resultText() const { return m_resultText; }
     void setResultText(const QString& text) { m_resultText = text; }
 
     bool hasScreenshotFilename() const { return !m_screenshotFilename.isEmpty(); }
-    /// The name of the picture's file, empty for none.
+    /// The name of the picture's file, tag "ScreenshotFilename"; empty for none.
     const QString& screenshotFilename() const { return m_screenshotFilename; }
     void setScreenshotFilename(const QString& filename) { m_screenshotFilename = filename; }
 

@@ -1,43 +1,56 @@
 #pragma once
 
+/// \file
+/// The parameters of the Irregular Terrain Model.
+
 #include "arvxml/parameterset.h"
 
 namespace ArvXml {
 
 /// The parameters of the Irregular Terrain Model, all optional:
-/// `<PropertiesITM><RRI>300.0000</RRI><Pol>H</Pol>...</PropertiesITM>`.
-///
-/// Each parameter comes at most once, in the order of the accessors below. Choices are read exactly by their
-/// texts: "H", "V"; "Equatorial", "Continental Subtropical", "Maritime Tropical", "Desert", "Continental
-/// Temperate", "Maritime Temperate, Land", "Maritime Temperate, Sea"; "Average Ground", "Poor Ground", "Good
-/// Ground", "Fresh Water", "Sea Water". Value 0 is written "UNDEFINED", not read, and invalid; a value outside
-/// is written so, too, but valid. Reading resets the set first.
+/// \code{.xml}
+/// <PropertiesITM>
+///     <RRI>300.0000</RRI>
+///     <Pol>H</Pol>
+///     <Climate>Continental Subtropical</Climate>
+///     <Surface>Poor Ground</Surface>
+///     <Conf>0.50</Conf>
+///     <Time>0.50</Time>
+/// </PropertiesITM>
+/// \endcode
+/// Each parameter comes at most once, in this order. Choices are read exactly by the texts at their enumerators
+/// ("Illegal value for "Pol""). Value 0 is written "UNDEFINED", not read, and invalid; a value outside
+/// is written so, too, but valid. Numbers out of range read "RRI out of bounds", and so on. Reading resets the set
+/// first.
 class ARVXML_EXPORT XmlPropModelITMType : public XmlParameterSet {
 public:
+    /// The polarisations, with their texts.
     enum Polarisation : int {
-        PolarisationUndefined = 0,
-        PolarisationH = 1,
-        PolarisationV = 2,
+        PolarisationUndefined = 0, ///< None chosen.
+        PolarisationH = 1,         ///< "H"
+        PolarisationV = 2,         ///< "V"
     };
 
+    /// The radio climates, with their texts.
     enum Climate : int {
-        ClimateUndefined = 0,
-        ClimateEquatorial = 1,
-        ClimateContinentalSubtropical = 2,
-        ClimateMaritimeTropical = 3,
-        ClimateDesert = 4,
-        ClimateContinentalTemperate = 5,
-        ClimateMaritimeTemperateLand = 6,
-        ClimateMaritimeTemperateSea = 7,
+        ClimateUndefined = 0,              ///< None chosen.
+        ClimateEquatorial = 1,             ///< "Equatorial"
+        ClimateContinentalSubtropical = 2, ///< "Continental Subtropical"
+        ClimateMaritimeTropical = 3,       ///< "Maritime Tropical"
+        ClimateDesert = 4,                 ///< "Desert"
+        ClimateContinentalTemperate = 5,   ///< "Continental Temperate"
+        ClimateMaritimeTemperateLand = 6,  ///< "Maritime Temperate, Land"
+        ClimateMaritimeTemperateSea = 7,   ///< "Maritime Temperate, Sea"
     };
 
+    /// The kinds of ground, with their texts as read. Which is written, the climate says; see surface().
     enum Surface : int {
-        SurfaceUndefined = 0,
-        SurfaceAverageGround = 1,
-        SurfacePoorGround = 2,
-        SurfaceGoodGround = 3,
-        SurfaceFreshWater = 4,
-        SurfaceSeaWater = 5,
+        SurfaceUndefined = 0,     ///< None chosen.
+        SurfaceAverageGround = 1, ///< "Average Ground"
+        SurfacePoorGround = 2,    ///< "Poor Ground"
+        SurfaceGoodGround = 3,    ///< "Good Ground"
+        SurfaceFreshWater = 4,    ///< "Fresh Water"
+        SurfaceSeaWater = 5,      ///< "Sea Water"
     };
 
     XmlPropModelITMType();
@@ -47,20 +60,20 @@ public:
     void setRRI(double value) { setValue(RriRow, value); }
     bool hasRRI() const { return isPresent(RriRow); }
 
-    /// The polarisation, tag "Pol" ("Illegal polarisation").
+    /// The polarisation, tag "Pol" ("Illegal polarisation"); undefined by default.
     Polarisation pol() { return choiceValue<Polarisation>(PolRow); }
     Polarisation pol() const { return choiceValue<Polarisation>(PolRow); }
     void setPol(Polarisation value) { setValue(PolRow, value); }
     bool hasPol() const { return isPresent(PolRow); }
 
-    /// The radio climate, tag "Climate" ("Illegal climate").
+    /// The radio climate, tag "Climate" ("Illegal climate"); undefined by default.
     Climate climate() { return choiceValue<Climate>(ClimateRow); }
     Climate climate() const { return choiceValue<Climate>(ClimateRow); }
     void setClimate(Climate value) { setValue(ClimateRow, value); }
     bool hasClimate() const { return isPresent(ClimateRow); }
 
     /// The ground, tag "Surface" ("Illegal surface"). The text written is chosen by the value of the climate:
-    /// climate 2 writes "Poor Ground", whatever the ground is.
+    /// climate 2 writes "Poor Ground", whatever the ground is, and climates 0, 6 and 7 write "UNDEFINED".
     Surface surface() { return choiceValue<Surface>(SurfaceRow); }
     Surface surface() const { return choiceValue<Surface>(SurfaceRow); }
     void setSurface(Surface value) { setValue(SurfaceRow, value); }

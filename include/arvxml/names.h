@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// Names of planning objects, keys, and references of commands.
+
 #include "arvxml/element.h"
 
 namespace ArvXml {
@@ -29,6 +32,8 @@ protected:
 class ARVXML_EXPORT XmlObjNameType : public XmlText {
 public:
     XmlObjNameType();
+
+    /// The name; the length is not checked here.
     const QString& objName() const { return m_text; }
     void setObjName(const QString& objName) { m_text = objName; }
 
@@ -44,6 +49,8 @@ protected:
 class ARVXML_EXPORT XmlReferenceType : public XmlText {
 public:
     XmlReferenceType();
+
+    /// The text of the reference; the length is not checked here.
     const QString& reference() const { return m_text; }
     void setReference(const QString& reference) { m_text = reference; }
 
@@ -52,10 +59,12 @@ protected:
 };
 
 /// The key of a map entry: `<Key>3</Key>`, a decimal integer, 0 or more ("XmlMapType: Illegal
-/// Key."). Default 0, also stored for a text that is no integer.
+/// Key."). Default 0, also stored for a text that is no integer ("Illegal value (must be numeric)").
 class ARVXML_EXPORT XmlKeyType : public XmlElement {
 public:
     XmlKeyType();
+
+    /// The number; negative ones are stored, too.
     int key() const { return m_key; }
     void setKey(int key) { m_key = key; }
 
@@ -71,7 +80,7 @@ private:
     int m_key = 0;
 };
 
-/// The base of the choices between names and all objects. A new choice means all, but is
+/// The base of the choices between names and all objects. A new choice means all, and is written so, but is
 /// "Uninitialized." until it is made: by a setter, even one that sets what was there, or by reading.
 class ARVXML_EXPORT XmlNameChoice : public XmlComposite {
 public:
@@ -104,6 +113,7 @@ private:
 class ARVXML_EXPORT XmlNameAllType : public XmlNameChoice {
 public:
     XmlNameAllType();
+
     bool hasObjName() const { return m_objName.isPresent(); }
     /// The name, null when all are meant.
     const XmlObjNameType* objName() const { return m_objName.get(); }
@@ -127,6 +137,7 @@ private:
 class ARVXML_EXPORT XmlNameAllMultiType : public XmlNameChoice {
 public:
     XmlNameAllMultiType();
+
     /// The names, owned by the element; empty when all are meant.
     const QList<XmlObjNameType*>& objNames() const { return m_objNames.items(); }
     /// Replaces the names by copies of the given ones. No names at all mean all objects.

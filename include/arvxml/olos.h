@@ -1,12 +1,19 @@
 #pragma once
 
+/// \file
+/// The parameters of the optical line-of-sight model.
+
 #include "arvxml/parameterset.h"
 
 namespace ArvXml {
 
-/// The parameters of the optical line-of-sight model, both optional: `<PropertiesOLOS>
-/// <K-factor>1.0000</K-factor><MaxRange_km>50.000</MaxRange_km></PropertiesOLOS>`.
-///
+/// The parameters of the optical line-of-sight model, both optional:
+/// \code{.xml}
+/// <PropertiesOLOS>
+///     <K-factor>1.0000</K-factor>
+///     <MaxRange_km>50.000</MaxRange_km>
+/// </PropertiesOLOS>
+/// \endcode
 /// The K-factor may be repeated before the range, and the last one counts. Reading does not reset the set:
 /// what the document does not mention stays. reset() leaves the text of the last syntaxError() in place.
 class ARVXML_EXPORT XmlPropModelOLOSType : public XmlParameterSet {

@@ -1,13 +1,19 @@
 #pragma once
 
+/// \file
+/// The envelope of an order.
+
 #include "arvxml/element.h"
 
 namespace ArvXml {
 
-/// The envelope of an order, in command and response documents:
-/// `<ORDER_DEF><ORDER_ID>ARV240305140709042</ORDER_ID><ORDER_SENDER>host</ORDER_SENDER></ORDER_DEF>`,
-/// both required, in this order.
-///
+/// The envelope of an order, in command and response documents; both children are required, in this order:
+/// \code{.xml}
+/// <ORDER_DEF>
+///     <ORDER_ID>ARV240305140709042</ORDER_ID>
+///     <ORDER_SENDER>client-1</ORDER_SENDER>
+/// </ORDER_DEF>
+/// \endcode
 /// Valid with both set ("Id not set.", "Sender not set."). An id of another form is dropped while
 /// reading, without an error; so is an empty sender. What was held before then stays: reset an envelope
 /// before reading into it again.
@@ -20,10 +26,13 @@ public:
     /// Without a host name the sender stays empty and the envelope is not valid.
     static XmlOrderDef createValidInstance();
 
+    /// The id, empty by default.
     const QString& orderId() const { return m_orderId; }
     /// Stores \a id and returns true if it is "ARV" and exactly 15 digits, of whatever script; otherwise
     /// changes nothing.
     bool setOrderId(const QString& id);
+
+    /// The sender's name, empty by default.
     const QString& orderSender() const { return m_orderSender; }
     /// Stores \a sender and returns true if it is not empty; otherwise changes nothing.
     bool setOrderSender(const QString& sender);

@@ -19,14 +19,18 @@ namespace ArvXml {
 template <typename T>
 class OptionalChild {
 public:
+    /// No child.
     OptionalChild() = default;
+    /// A copy of the child, if there is one.
     OptionalChild(const OptionalChild& other)
         : m_child(other.isPresent() ? std::make_unique<T>(*other.m_child) : nullptr)
     {
     }
+    /// Takes the child itself.
     OptionalChild(OptionalChild&&) noexcept = default;
     ~OptionalChild() = default;
 
+    /// Assigns into the child held, removes it, or makes a copy, as the other side has it.
     OptionalChild& operator=(const OptionalChild& other)
     {
         if (other.isPresent())
@@ -35,6 +39,7 @@ public:
             clear();
         return *this;
     }
+    /// Moves into the child held if both sides hold one; otherwise takes what the other side has.
     OptionalChild& operator=(OptionalChild&& other) noexcept
     {
         if (isPresent() && other.isPresent())
@@ -44,6 +49,7 @@ public:
         return *this;
     }
 
+    /// Whether there is a child.
     bool isPresent() const { return m_child != nullptr; }
 
     /// The child, or null when absent.
@@ -70,6 +76,7 @@ public:
         return *m_child;
     }
 
+    /// Destroys the child, if there is one.
     void clear() { m_child.reset(); }
 
     /// Gives the child held up to the caller without destroying it; the child is then absent.
@@ -85,28 +92,36 @@ private:
 template <typename T, typename Pointers = QList<T*>>
 class OwnedList {
 public:
+    /// No items.
     OwnedList() = default;
+    /// A copy of each item.
     OwnedList(const OwnedList& other)
         : m_items(copiesOf(other.m_items))
     {
     }
+    /// Takes the items themselves.
     OwnedList(OwnedList&& other) noexcept { m_items.swap(other.m_items); }
     ~OwnedList() { qDeleteAll(m_items); }
 
+    /// Replaces the items held by a copy of each of the other side's.
     OwnedList& operator=(const OwnedList& other)
     {
         if (this != &other)
             set(other.m_items);
         return *this;
     }
+    /// Exchanges the items of both sides.
     OwnedList& operator=(OwnedList&& other) noexcept
     {
         m_items.swap(other.m_items);
         return *this;
     }
 
+    /// The items, in order; they stay the list's.
     const Pointers& items() const { return m_items; }
+    /// Whether there are none.
     bool isEmpty() const { return m_items.isEmpty(); }
+    /// How many items there are.
     int size() const { return static_cast<int>(m_items.size()); }
 
     /// Replaces the items held by a copy of each given one, null pointers left out. \a items may be
@@ -123,6 +138,7 @@ public:
     /// Appends a copy of \a item, which may be an item of this list.
     T& append(const T& item) { return adopt(new T(item)); }
 
+    /// Destroys all items.
     void clear()
     {
         Pointers items;

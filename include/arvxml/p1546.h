@@ -1,36 +1,52 @@
 #pragma once
 
+/// \file
+/// The parameters of ITU-R P.1546.
+
 #include "arvxml/parameterset.h"
 
 namespace ArvXml {
 
 /// The parameters of the ITU-R P.1546 point-to-area model, all optional:
-/// `<PropertiesP1546><K-factor>1.333</K-factor><TimePct>50.00</TimePct>...</PropertiesP1546>`.
-///
-/// Each parameter comes at most once, in the order of the accessors below. Choices are read exactly by their
-/// texts, that of value 0 included: "Undefined", "Land", "Cold Sea", "Warm Sea"; "Undefined", "Open",
-/// "Suburban", "Warm Sea"; "Off", "On". A value outside is written with the text of value 0. Reading resets the
-/// set first.
+/// \code{.xml}
+/// <PropertiesP1546>
+///     <K-factor>1.333</K-factor>
+///     <TimePct>50.00</TimePct>
+///     <PropPathType>Land</PropPathType>
+///     <LocVar>50.00</LocVar>
+///     <BoardAntGain>2.150</BoardAntGain>
+///     <RxAntEnviro>Open</RxAntEnviro>
+///     <AvgAreaEnviro>Suburban</AvgAreaEnviro>
+///     <PathCorrection>On</PathCorrection>
+///     <PathTypeForBroadAnt>Land</PathTypeForBroadAnt>
+///     <PathTypeForRxAnt>Cold Sea</PathTypeForRxAnt>
+/// </PropertiesP1546>
+/// \endcode
+/// Each parameter comes at most once, in this order. Choices are read exactly by the texts at their enumerators,
+/// that of value 0 included ("Illegal enum for PropPathType"); a value outside is written with the text of value 0,
+/// and none is invalid. Numbers out of range read "TimePct out of bounds", and so on. Reading resets the set first.
 class ARVXML_EXPORT XmlPropModelP1546Type : public XmlParameterSet {
 public:
+    /// The types of paths, with their texts.
     enum Path : int {
-        PathUndefined = 0,
-        PathLand = 1,
-        PathColdSea = 2,
-        PathWarmSea = 3,
+        PathUndefined = 0, ///< "Undefined"
+        PathLand = 1,      ///< "Land"
+        PathColdSea = 2,   ///< "Cold Sea"
+        PathWarmSea = 3,   ///< "Warm Sea"
     };
 
-    /// The fourth environment is "Warm Sea", as the fourth path is.
+    /// The surroundings, with their texts. The fourth is "Warm Sea", as the fourth path is.
     enum Environment : int {
-        EnvironmentUndefined = 0,
-        EnvironmentOpen = 1,
-        EnvironmentSuburban = 2,
-        EnvironmentWarmSea = 3,
+        EnvironmentUndefined = 0, ///< "Undefined"
+        EnvironmentOpen = 1,      ///< "Open"
+        EnvironmentSuburban = 2,  ///< "Suburban"
+        EnvironmentWarmSea = 3,   ///< "Warm Sea"
     };
 
+    /// Yes or no, with the texts.
     enum Switch : int {
-        SwitchOff = 0,
-        SwitchOn = 1,
+        SwitchOff = 0, ///< "Off"
+        SwitchOn = 1,  ///< "On"
     };
 
     XmlPropModelP1546Type();
@@ -45,7 +61,7 @@ public:
     void setTime(double value) { setValue(TimeRow, value); }
     bool hasTime() const { return isPresent(TimeRow); }
 
-    /// The type of the path, tag "PropPathType".
+    /// The type of the path, tag "PropPathType"; undefined by default.
     Path path() { return choiceValue<Path>(PathRow); }
     Path path() const { return choiceValue<Path>(PathRow); }
     void setPath(Path value) { setValue(PathRow, value); }
@@ -64,31 +80,31 @@ public:
     void setBroadAntGAin(double value) { setValue(BroadAntGainRow, value); }
     bool hasBroadAntGain() const { return isPresent(BroadAntGainRow); }
 
-    /// The surroundings of the receiving antenna, tag "RxAntEnviro".
+    /// The surroundings of the receiving antenna, tag "RxAntEnviro"; undefined by default.
     Environment rxAntE() { return choiceValue<Environment>(RxAntERow); }
     Environment rxAntE() const { return choiceValue<Environment>(RxAntERow); }
     void setRxAntE(Environment value) { setValue(RxAntERow, value); }
     bool hasRxAntE() const { return isPresent(RxAntERow); }
 
-    /// The surroundings in the area on average, tag "AvgAreaEnviro".
+    /// The surroundings in the area on average, tag "AvgAreaEnviro"; undefined by default.
     Environment avgAreaE() { return choiceValue<Environment>(AvgAreaERow); }
     Environment avgAreaE() const { return choiceValue<Environment>(AvgAreaERow); }
     void setAvgAreaE(Environment value) { setValue(AvgAreaERow, value); }
     bool hasAvgAreaE() const { return isPresent(AvgAreaERow); }
 
-    /// Whether the path is corrected, tag "PathCorrection".
+    /// Whether the path is corrected, tag "PathCorrection"; off by default.
     Switch correction() { return choiceValue<Switch>(CorrectionRow); }
     Switch correction() const { return choiceValue<Switch>(CorrectionRow); }
     void setCorrection(Switch value) { setValue(CorrectionRow, value); }
     bool hasCorrection() const { return isPresent(CorrectionRow); }
 
-    /// The type of the path at the broadcasting antenna, tag "PathTypeForBroadAnt".
+    /// The type of the path at the broadcasting antenna, tag "PathTypeForBroadAnt"; undefined by default.
     Path broadAnt() { return choiceValue<Path>(BroadAntRow); }
     Path broadAnt() const { return choiceValue<Path>(BroadAntRow); }
     void setBroadAnt(Path value) { setValue(BroadAntRow, value); }
     bool hasBroadAnt() const { return isPresent(BroadAntRow); }
 
-    /// The type of the path at the receiving antenna, tag "PathTypeForRxAnt".
+    /// The type of the path at the receiving antenna, tag "PathTypeForRxAnt"; undefined by default.
     Path rxAnt() { return choiceValue<Path>(RxAntRow); }
     Path rxAnt() const { return choiceValue<Path>(RxAntRow); }
     void setRxAnt(Path value) { setValue(RxAntRow, value); }

@@ -1,14 +1,30 @@
 #pragma once
 
+/// \file
+/// The parameters of ITU-R P.452.
+
 #include "arvxml/parameterset.h"
 
 namespace ArvXml {
 
 /// The parameters of the ITU-R P.452 interference model, all optional:
-/// `<PropertiesP452><DeltaN>45.6</DeltaN><SurfaceRefract>329</SurfaceRefract>...</PropertiesP452>`.
-///
-/// Each parameter comes at most once, in the order of the accessors below. Reading resets the set first.
-/// Messages call the class "XmlPropModelP542Type".
+/// \code{.xml}
+/// <PropertiesP452>
+///     <DeltaN>45.6</DeltaN>
+///     <SurfaceRefract>329</SurfaceRefract>
+///     <TimePct>50.00</TimePct>
+///     <Pressure_hPa>1013</Pressure_hPa>
+///     <Temp_C>15</Temp_C>
+///     <OverWater_km>0.0</OverWater_km>
+///     <InlandCoastal_km>0.0</InlandCoastal_km>
+///     <Inland_km>25.0</Inland_km>
+///     <DistTxCoast_km>500.0</DistTxCoast_km>
+///     <DistRxCoast_km>500.0</DistRxCoast_km>
+/// </PropertiesP452>
+/// \endcode
+/// Each parameter comes at most once, in this order; numbers without decimals are read as integers. Numbers out of
+/// range read "DeltaN out of bounds", and so on. Reading resets the set first. Messages call the class
+/// "XmlPropModelP542Type".
 class ARVXML_EXPORT XmlPropModelP452Type : public XmlParameterSet {
 public:
     XmlPropModelP452Type();

@@ -1,65 +1,77 @@
 #pragma once
 
+/// \file
+/// The parameters of ITU-R P.526.
+
 #include "arvxml/parameterset.h"
 
 namespace ArvXml {
 
-/// The parameters of the ITU-R P.526 diffraction model, all optional: read as
-/// `<PropertiesP526><K-factor>1.333</K-factor><Pol>Vertical</Pol>...</PropertiesP526>`.
-///
+/// The parameters of the ITU-R P.526 diffraction model, all optional. It is read as
+/// \code{.xml}
+/// <PropertiesP526>
+///     <K-factor>1.333</K-factor>
+///     <Pol>Vertical</Pol>
+///     <Surface>Sea Water</Surface>
+///     <AssumeSmoothEarth>Off</AssumeSmoothEarth>
+///     <IncludeSubPathDiffractionLoss>On</IncludeSubPathDiffractionLoss>
+/// </PropertiesP526>
+/// \endcode
 /// All but the K-factor are written under other names than they are read ("Polarisation", and labels with
-/// blanks, which are no names of XML): none of them can be read back. Each parameter comes at most once, in the
-/// order of the accessors below. Choices are read exactly by their texts, that of value 0 included:
-/// "Horizontal", "Vertical"; "Average Ground", "Poor Ground", "Good Ground", "Fresh Water", "Sea Water"; "Off",
-/// "On". A value outside is written with the default's text. Reading resets the set first.
+/// blanks, which are no names of XML): none of them can be read back. Each parameter comes at most once, in this
+/// order. Choices are read exactly by the texts at their enumerators, that of value 0 included ("Illegal enum for
+/// Pol"); a value outside is written with the default's text, and none is invalid. Reading resets the set first.
 class ARVXML_EXPORT XmlPropModelP526Type : public XmlParameterSet {
 public:
+    /// The polarisations, with their texts.
     enum Polarisation : int {
-        PolarisationHorizontal = 0,
-        PolarisationVertical = 1,
+        PolarisationHorizontal = 0, ///< "Horizontal"
+        PolarisationVertical = 1,   ///< "Vertical"
     };
 
+    /// The kinds of ground, with their texts.
     enum Surface : int {
-        SurfaceAverageGround = 0,
-        SurfacePoorGround = 1,
-        SurfaceGoodGround = 2,
-        SurfaceFreshWater = 3,
-        SurfaceSeaWater = 4,
+        SurfaceAverageGround = 0, ///< "Average Ground"
+        SurfacePoorGround = 1,    ///< "Poor Ground"
+        SurfaceGoodGround = 2,    ///< "Good Ground"
+        SurfaceFreshWater = 3,    ///< "Fresh Water"
+        SurfaceSeaWater = 4,      ///< "Sea Water"
     };
 
+    /// Yes or no, with the texts.
     enum Switch : int {
-        SwitchOff = 0,
-        SwitchOn = 1,
+        SwitchOff = 0, ///< "Off"
+        SwitchOn = 1,  ///< "On"
     };
 
     XmlPropModelP526Type();
 
-    /// The effective earth radius factor, tag "K-factor": 0.1 to 5.0, default 1.3333.
+    /// The effective earth radius factor, tag "K-factor" ("K-factor out of bounds"): 0.1 to 5.0, default 1.3333.
     double kFactor() const { return realValue(KFactorRow); }
     void setKfactor(double value) { setValue(KFactorRow, value); }
     bool hasKFactor() const { return isPresent(KFactorRow); }
 
-    /// The polarisation, read under "Pol", written under "Polarisation".
+    /// The polarisation, read under "Pol", written under "Polarisation"; horizontal by default.
     Polarisation pol() { return choiceValue<Polarisation>(PolRow); }
     Polarisation pol() const { return choiceValue<Polarisation>(PolRow); }
     void setPol(Polarisation value) { setValue(PolRow, value); }
     bool hasPol() const { return isPresent(PolRow); }
 
-    /// The ground, read under "Surface", written under "Surface Condition".
+    /// The ground, read under "Surface", written under "Surface Condition"; average ground by default.
     Surface surf() { return choiceValue<Surface>(SurfRow); }
     Surface surf() const { return choiceValue<Surface>(SurfRow); }
     void setSurf(Surface value) { setValue(SurfRow, value); }
     bool hasSurf() const { return isPresent(SurfRow); }
 
     /// Whether the earth is taken as smooth, read under "AssumeSmoothEarth", written under "Assume Smooth
-    /// Earth for complete path".
+    /// Earth for complete path"; off by default.
     Switch smooth() { return choiceValue<Switch>(SmoothRow); }
     Switch smooth() const { return choiceValue<Switch>(SmoothRow); }
     void setSmooth(Switch value) { setValue(SmoothRow, value); }
     bool hasSmooth() const { return isPresent(SmoothRow); }
 
     /// Whether the diffraction of sub-paths counts, read under "IncludeSubPathDiffractionLoss", written under
-    /// "Include sub path diffraction loss". On by default.
+    /// "Include sub path diffraction loss"; on by default.
     Switch subPath() { return choiceValue<Switch>(SubPathRow); }
     Switch subPath() const { return choiceValue<Switch>(SubPathRow); }
     void setSubPath(Switch value) { setValue(SubPathRow, value); }

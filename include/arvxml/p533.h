@@ -1,13 +1,21 @@
 #pragma once
 
+/// \file
+/// The parameters of ITU-R P.533.
+
 #include "arvxml/parameterset.h"
 
 namespace ArvXml {
 
-/// The parameters of the ITU-R P.533 HF model, all optional: `<PropertiesP533><K-factor>1.000</K-factor>
-/// <SmoothedSunSpotNumber>5.0</SmoothedSunSpotNumber></PropertiesP533>`.
-///
-/// Each parameter comes at most once, in this order. Reading resets the set first. Messages call the class
+/// The parameters of the ITU-R P.533 HF model, both optional:
+/// \code{.xml}
+/// <PropertiesP533>
+///     <K-factor>1.000</K-factor>
+///     <SmoothedSunSpotNumber>5.0</SmoothedSunSpotNumber>
+/// </PropertiesP533>
+/// \endcode
+/// Each parameter comes at most once, in this order. Numbers out of range read "K-factor out of bounds" and
+/// "SmoothedSunSpotNumber out of bounds". Reading resets the set first. Messages call the class
 /// "XmlPropModelP526Type".
 class ARVXML_EXPORT XmlPropModelP533Type : public XmlParameterSet {
 public:

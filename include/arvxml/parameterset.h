@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// What the parameter sets of the propagation models have in common.
+
 #include "arvxml/element.h"
 
 #include <vector>
@@ -17,7 +20,9 @@ class ParameterTable;
 /// stored while reading, and reported afterwards. A set has no attributes and no version.
 class ARVXML_EXPORT XmlParameterSet : public XmlElement {
 public:
+    /// Copies take over all values and flags.
     XmlParameterSet(const XmlParameterSet&) = default;
+    /// Takes over all values and flags.
     XmlParameterSet& operator=(const XmlParameterSet&) = default;
     ~XmlParameterSet() override = default;
 

@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// The choice of a propagation model.
+
 #include "arvxml/command.h"
 #include "arvxml/element.h"
 #include "arvxml/freespace.h"
@@ -15,26 +18,29 @@ namespace ArvXml {
 
 /// The choice of a propagation model: `<SelectModel>P.1546</SelectModel>`.
 ///
-/// Texts "Free-space", "OLOS", "ITM", "P.452", "P.1546", "P.526", "P.533", "Okumura-Hata"; another text is
-/// the reader error "Illegal enum value.". Undefined is reported as "No model selected.".
+/// The texts stand at the enumerators; another text is the reader error "Illegal enum value.". Undefined is
+/// reported as "No model selected.".
 ///
 /// Unlike the other enumerations it is read from a start tag only ("Parse error (wrong position)"), and its
 /// text is read whole: comments do not cut it, and an empty one is an unknown one.
 class ARVXML_EXPORT XmlPropModelEnumType : public XmlEnumeration {
 public:
+    /// The models, with their texts.
     enum Model : int {
-        ModelUndefined = 0,
-        ModelFreespace = 1,
-        ModelOLOS = 2,
-        ModelITM = 3,
-        ModelP452 = 4,
-        ModelP1546 = 5,
-        ModelP526 = 6,
-        ModelP533 = 7,
-        ModelOkumuraHata = 8,
+        ModelUndefined = 0,   ///< None chosen.
+        ModelFreespace = 1,   ///< "Free-space"
+        ModelOLOS = 2,        ///< "OLOS": optical line of sight
+        ModelITM = 3,         ///< "ITM": Irregular Terrain Model
+        ModelP452 = 4,        ///< "P.452": ITU-R P.452
+        ModelP1546 = 5,       ///< "P.1546": ITU-R P.1546
+        ModelP526 = 6,        ///< "P.526": ITU-R P.526
+        ModelP533 = 7,        ///< "P.533": ITU-R P.533
+        ModelOkumuraHata = 8, ///< "Okumura-Hata"
     };
 
     XmlPropModelEnumType();
+
+    /// The model; ModelUndefined by default.
     Model model() { return static_cast<Model>(m_value); }
     Model model() const { return static_cast<Model>(m_value); }
     void setModel(Model model) { m_value = model; }
@@ -46,9 +52,16 @@ protected:
 };
 
 /// The command to choose a propagation model and set its parameters:
-/// `<PropagationModel><SelectModel>ITM</SelectModel><PropertiesITM>...</PropertiesITM>
-/// <Reference>42</Reference></PropagationModel>`.
-///
+/// \code{.xml}
+/// <PropagationModel>
+///     <SelectModel>P.1546</SelectModel>
+///     <PropertiesP1546>
+///         <K-factor>1.333</K-factor>
+///         <TimePct>10.00</TimePct>
+///     </PropertiesP1546>
+///     <Reference>42</Reference>
+/// </PropagationModel>
+/// \endcode
 /// The selection comes first, then at most one parameter set ("Illegal number of elements."); both may be
 /// missing, and nothing ties the set to the selection. The reference is there, and required, only for an
 /// object that is a command. Reading does not reset the element first; a child read replaces the one held.
@@ -57,6 +70,7 @@ public:
     /// \a isCommand tells whether the element is a command, with a reference. Reading and reset() leave
     /// that as it is; copies take it over.
     explicit XmlPropModelType(bool isCommand);
+    /// Whether the element is a command, with a reference.
     bool isCommand() const { return m_isCommand; }
 
     bool hasModel() const { return m_model.isPresent(); }

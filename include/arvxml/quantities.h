@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// Measured quantities: one number each, with a unit.
+
 #include "arvxml/element.h"
 
 namespace ArvXml {
@@ -43,6 +46,7 @@ protected:
 /// The base of the quantities whose unit is fixed: it is written, but not read.
 class ARVXML_EXPORT XmlFixedUnitQuantity : public XmlQuantity {
 public:
+    /// The unit, always the same.
     const QString& unit() const;
 
 protected:
@@ -55,6 +59,7 @@ protected:
 /// attribute: "unit""), its text is stored whatever it is, and judged afterwards.
 class ARVXML_EXPORT XmlReadUnitQuantity : public XmlQuantity {
 public:
+    /// The unit as it was read; that of the class on a new element.
     const QString& unit() const { return m_unit; }
     void reset() override;
 
@@ -75,6 +80,8 @@ protected:
 class ARVXML_EXPORT XmlDBMType : public XmlFixedUnitQuantity {
 public:
     XmlDBMType();
+
+    /// The level in dBm.
     double dBm() const { return m_value; }
     void setDBM(double dBm) { m_value = dBm; }
 
@@ -89,6 +96,8 @@ protected:
 class ARVXML_EXPORT XmlDecibelType : public XmlFixedUnitQuantity {
 public:
     XmlDecibelType();
+
+    /// The ratio in dB.
     double decibel() const { return m_value; }
     void setDecibel(double decibel) { m_value = decibel; }
 
@@ -102,6 +111,8 @@ protected:
 class ARVXML_EXPORT XmlDegreesType : public XmlFixedUnitQuantity {
 public:
     XmlDegreesType();
+
+    /// The angle in degrees.
     double degrees() const { return m_value; }
     void setDegrees(double degrees) { m_value = degrees; }
 
@@ -116,6 +127,8 @@ protected:
 class ARVXML_EXPORT XmlLengthType : public XmlReadUnitQuantity {
 public:
     XmlLengthType();
+
+    /// The length in metres.
     int length() const { return static_cast<int>(m_value); }
     void setLength(int length) { m_value = length; }
 
@@ -129,6 +142,8 @@ protected:
 class ARVXML_EXPORT XmlPowerType : public XmlReadUnitQuantity {
 public:
     XmlPowerType();
+
+    /// The power in W.
     double power() const { return m_value; }
     void setPower(double power) { m_value = power; }
 
@@ -147,8 +162,11 @@ protected:
 class ARVXML_EXPORT XmlFreqType : public XmlReadUnitQuantity {
 public:
     XmlFreqType();
+
+    /// The frequency in MHz, whatever the unit.
     double frequency_MHz() const { return m_value; }
     void setFrequency_MHz(double frequency) { m_value = frequency; }
+
     /// The unit to write in; it does not change the value held. An unknown unit is written with the
     /// number of megahertz, and an empty one is refused by readers.
     void setUnit(const QString& unit) { m_unit = unit; }
@@ -169,6 +187,8 @@ protected:
 class ARVXML_EXPORT XmlBandwidthType : public XmlReadUnitQuantity {
 public:
     XmlBandwidthType();
+
+    /// The bandwidth in kHz.
     double bandwidth_khz() const { return m_value; }
     void setBandwidth(double bandwidth) { m_value = bandwidth; }
 
@@ -176,14 +196,16 @@ protected:
     const QuantityRules& rules() const override;
 };
 
-/// A field strength threshold in dBm: `<RxThreshold version="1.0"
-/// unit="dBm">-100.000000000000000</RxThreshold>`. Default -99999.999.
+/// A field strength threshold in dBm:
+/// `<RxThreshold version="1.0" unit="dBm">-100.000000000000000</RxThreshold>`. Default -99999.999.
 ///
 /// Valid above -99999.989 ("Illegal fieldstrength."), just above the default, with the unit "dBm"
 /// ("Illegal unit.").
 class ARVXML_EXPORT XmlFieldstrengthType : public XmlReadUnitQuantity {
 public:
     XmlFieldstrengthType();
+
+    /// The threshold in dBm.
     double fieldstrength() const { return m_value; }
     void setFieldstrength(double fieldstrength) { m_value = fieldstrength; }
 
@@ -199,6 +221,8 @@ protected:
 class ARVXML_EXPORT XmlSinadType : public XmlQuantity {
 public:
     XmlSinadType();
+
+    /// The ratio, without a unit.
     double sinad() const { return m_value; }
     void setSinad(double sinad) { m_value = sinad; }
 

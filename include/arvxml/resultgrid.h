@@ -1,26 +1,32 @@
 #pragma once
 
+/// \file
+/// The spacing of result grids.
+
 #include "arvxml/element.h"
 
 namespace ArvXml {
 
 /// The spacing of a result grid: `<ResultGrid>100</ResultGrid>`.
 ///
-/// Texts "10", "50", "100", "200", "500", "1000"; another text is the reader error "Illegal enum
-/// value.". An undefined spacing is reported as "Illegal grid size.".
+/// The texts stand at the enumerators; another text is the reader error "Illegal enum value.". An undefined
+/// spacing is reported as "Illegal grid size.".
 class ARVXML_EXPORT XmlResultGridType : public XmlEnumeration {
 public:
+    /// The spacings, with their texts.
     enum GridSize : int {
-        Undefined = 0,
-        Grid10 = 1,
-        Grid50 = 2,
-        Grid100 = 3,
-        Grid200 = 4,
-        Grid500 = 5,
-        Grid1000 = 6,
+        Undefined = 0, ///< None chosen.
+        Grid10 = 1,    ///< "10"
+        Grid50 = 2,    ///< "50"
+        Grid100 = 3,   ///< "100"
+        Grid200 = 4,   ///< "200"
+        Grid500 = 5,   ///< "500"
+        Grid1000 = 6,  ///< "1000"
     };
 
     XmlResultGridType();
+
+    /// The spacing; Undefined by default.
     GridSize size() { return static_cast<GridSize>(m_value); }
     GridSize size() const { return static_cast<GridSize>(m_value); }
     void setSize(GridSize size) { m_value = size; }

@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// The records that describe results in a display snapshot request.
+
 #include "arvxml/element.h"
 #include "arvxml/geometry.h"
 #include "arvxml/gridresult.h"
@@ -10,10 +13,15 @@ namespace ArvXml {
 
 /// The base of the result information records. A record describes a result grid that was calculated: its
 /// name, the area that it covers, the spacing of the grid and the range of its values.
-///
-/// `<Result_CEP version="1.0"><Name>...</Name><AreaPolygon>...</AreaPolygon>
-/// <ResultGrid>100</ResultGrid><Values version="1.0" unit="km"><Min>0.2</Min><Max>3</Max></Values>
-/// </Result_CEP>`, in this order, with "AreaRect" for "AreaPolygon" as the case may be; all are required.
+/// \code{.xml}
+/// <Result_CEP version="1.0">
+///     <Name>CEP of the valley</Name>
+///     <AreaPolygon version="1.0">...</AreaPolygon>
+///     <ResultGrid>100</ResultGrid>
+///     <Values version="1.0" unit="km"><Min>0.2</Min><Max>3</Max></Values>
+/// </Result_CEP>
+/// \endcode
+/// The children come in this order, with "AreaRect" for "AreaPolygon" as the case may be; all are required.
 /// Another version than "1.0" is refused while reading.
 ///
 /// Reading one kind of area removes the other; setting it does not. With both set, both are written (and
@@ -24,25 +32,25 @@ namespace ArvXml {
 /// read.
 class ARVXML_EXPORT XmlResInfo : public XmlVersionedComposite {
 public:
-    /// The name of the result.
+    /// The name of the result, tag "Name".
     const XmlObjNameType* objName() const { return &m_objName; }
     void setObjName(const XmlObjNameType& objName) { m_objName = objName; }
 
     bool hasAreaPoly() const { return m_areaPoly.isPresent(); }
-    /// The polygon, null when absent.
+    /// The polygon, tag "AreaPolygon"; null when absent.
     const XmlAreaPolyType* areaPoly() const { return m_areaPoly.get(); }
     void setAreaPoly(const XmlAreaPolyType& polygon) { m_areaPoly.set(polygon); }
 
     bool hasAreaRect() const { return m_areaRect.isPresent(); }
-    /// The rectangle, null when absent.
+    /// The rectangle, tag "AreaRect"; null when absent.
     const XmlAreaRectType* areaRect() const { return m_areaRect.get(); }
     void setAreaRect(const XmlAreaRectType& rectangle) { m_areaRect.set(rectangle); }
 
-    /// The spacing of the grid.
+    /// The spacing of the grid, tag "ResultGrid".
     const XmlResultGridType* resultGrid() const { return &m_resultGrid; }
     void setResultGrid(const XmlResultGridType& grid) { m_resultGrid = grid; }
 
-    /// The range of the grid's values.
+    /// The range of the grid's values, tag "Values".
     const XmlGridValuesType* gridValues() const { return &m_gridValues; }
     void setGridValues(const XmlGridValuesType& values) { m_gridValues = values; }
 
@@ -94,7 +102,7 @@ public:
     XmlResInfo_BestSensor_Type();
 
     bool hasComment() const { return m_comment.isPresent(); }
-    /// The comment, null when absent. Reading replaces the one held.
+    /// The comment, tag "Comment"; null when absent. Reading replaces the one held.
     const XmlObjNameType* comment() const { return m_comment.get(); }
     void setComment(const XmlObjNameType& comment) { m_comment.set(comment); }
 

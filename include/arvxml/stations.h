@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// Stations and receivers.
+
 #include "arvxml/element.h"
 #include "arvxml/emitters.h"
 #include "arvxml/geometry.h"
@@ -8,36 +11,49 @@
 
 namespace ArvXml {
 
-/// A sensor site of the deployment: `<Station><Name>...</Name><SignalPath .../><Position .../>
-/// <RxParameter .../><DFprecision .../><StationInterlink .../></Station>`, in this order; only name and
-/// position are required. Reading reuses the optional children held. It has no version: a "version" attribute is
-/// ignored.
+/// A sensor site of the deployment:
+/// \code{.xml}
+/// <Station>
+///     <Name>Site 1</Name>
+///     <SignalPath version="1.0">...</SignalPath>
+///     <Position version="1.0">...</Position>
+///     <RxParameter version="1.0">...</RxParameter>
+///     <DFprecision version="1.0" unit="°">3</DFprecision>
+///     <StationInterlink version="1.0">...</StationInterlink>
+/// </Station>
+/// \endcode
+/// The children come in this order; only name and position are required. Reading reuses the optional children held.
+/// It has no version: a "version" attribute is ignored. What the library writes with an interlink cannot be read back;
+/// see XmlStationInterlinkType.
 class ARVXML_EXPORT XmlStationType : public XmlComposite {
 public:
     XmlStationType();
+
+    /// The name, tag "Name".
     const XmlObjNameType* objName() const { return &m_objName; }
     void setObjName(const XmlObjNameType& objName) { m_objName = objName; }
 
     bool hasSignalPath() const { return m_signalPath.isPresent(); }
-    /// The signal path, null when absent.
+    /// The signal path, tag "SignalPath"; null when absent.
     const XmlSignalPathType* signalPath() const { return m_signalPath.get(); }
     void setSignalPath(const XmlSignalPathType& signalPath) { m_signalPath.set(signalPath); }
 
+    /// The position, tag "Position".
     const XmlCoordinateType* position() const { return &m_position; }
     void setPosition(const XmlCoordinateType& position) { m_position = position; }
 
     bool hasRxParam() const { return m_rxParam.isPresent(); }
-    /// The receiver parameters, null when absent.
+    /// The receiver parameters, tag "RxParameter"; null when absent.
     const XmlRxParamType* rxParam() const { return m_rxParam.get(); }
     void setRxParam(const XmlRxParamType& parameters) { m_rxParam.set(parameters); }
 
     bool hasDfPrecision() const { return m_dfPrecision.isPresent(); }
-    /// The bearing precision, null when absent.
+    /// The bearing precision, tag "DFprecision"; null when absent.
     const XmlDfPrecisionType* dfPrecision() const { return m_dfPrecision.get(); }
     void setDfPrecision(const XmlDfPrecisionType& precision) { m_dfPrecision.set(precision); }
 
     bool hasInterlink() const { return m_interlink.isPresent(); }
-    /// The link to the network, null when absent.
+    /// The link to the network, tag "StationInterlink"; null when absent.
     const XmlStationInterlinkType* interlink() const { return m_interlink.get(); }
     void setInterlink(const XmlStationInterlinkType& interlink) { m_interlink.set(interlink); }
 
@@ -53,17 +69,26 @@ private:
     OptionalChild<XmlStationInterlinkType> m_interlink;
 };
 
-/// A receiving site: `<Receiver version="1.0"><Name>...</Name><Position .../><RxParameter .../>
-/// <StationInterlink .../></Receiver>`, the interlink optional. A position before the name is read,
-/// but then the name is refused. Another version than "1.0" is refused while reading.
+/// A receiving site; the children come in this order, the interlink optional:
+/// \code{.xml}
+/// <Receiver version="1.0">
+///     <Name>RX 1</Name>
+///     <Position version="1.0">...</Position>
+///     <RxParameter version="1.0">...</RxParameter>
+///     <StationInterlink version="1.0">...</StationInterlink>
+/// </Receiver>
+/// \endcode
+/// What the library writes with an interlink cannot be read back; see XmlStationInterlinkType.
 class ARVXML_EXPORT XmlReceiverType : public XmlSite {
 public:
     XmlReceiverType();
+
+    /// The parameters of the receiver, tag "RxParameter".
     const XmlRxParamType* rxParam() const { return &m_rxParam; }
     void setRxParam(const XmlRxParamType& parameters) { m_rxParam = parameters; }
 
     bool hasInterlink() const { return m_interlink.isPresent(); }
-    /// The link to the network, null when absent. Reading replaces the one held.
+    /// The link to the network, tag "StationInterlink"; null when absent. Reading replaces the one held.
     const XmlStationInterlinkType* interlink() const { return m_interlink.get(); }
     void setInterlink(const XmlStationInterlinkType& interlink) { m_interlink.set(interlink); }
 

@@ -1,17 +1,26 @@
 #pragma once
 
+/// \file
+/// Lists of measured quantities, and of receiver thresholds by frequency.
+
 #include "arvxml/element.h"
 #include "arvxml/quantities.h"
 
 namespace ArvXml {
 
-/// Levels: `<DBM version="1.0"><dBm .../><dBm .../></DBM>`, at least one ("Too few pairs (min. 1)").
+/// Levels, at least one ("Too few pairs (min. 1)"):
+/// \code{.xml}
+/// <DBM version="1.0">
+///     <dBm version="1.0" unit="dBm">3.000000000</dBm>
+///     <dBm version="1.0" unit="dBm">6.000000000</dBm>
+/// </DBM>
+/// \endcode
 class ARVXML_EXPORT XmlDBMListType : public XmlList {
 public:
     XmlDBMListType();
-    /// The items, owned by the list.
+
+    /// The items, owned by the list. The setter replaces them by copies of the given ones.
     const QList<XmlDBMType*>& dBmList() const { return m_items.items(); }
-    /// Replaces the items by copies of the given ones, which stay the caller's.
     void setDBMList(const QList<XmlDBMType*>& items) { m_items.set(items); }
 
 protected:
@@ -21,13 +30,19 @@ private:
     OwnedList<XmlDBMType> m_items;
 };
 
-/// Ratios: `<Gains version="1.0"><Decibel .../></Gains>`, at least one ("Too few pairs (min. 1)").
+/// Ratios, at least one ("Too few pairs (min. 1)"):
+/// \code{.xml}
+/// <Gains version="1.0">
+///     <Decibel version="1.0" unit="dB">2.000000</Decibel>
+///     <Decibel version="1.0" unit="dB">2.500000</Decibel>
+/// </Gains>
+/// \endcode
 class ARVXML_EXPORT XmlDecibelListType : public XmlList {
 public:
     XmlDecibelListType();
-    /// The items, owned by the list.
+
+    /// The items, owned by the list. The setter replaces them by copies of the given ones.
     const QList<XmlDecibelType*>& decibelList() const { return m_items.items(); }
-    /// Replaces the items by copies of the given ones, which stay the caller's.
     void setDecibelList(const QList<XmlDecibelType*>& items) { m_items.set(items); }
 
 protected:
@@ -37,14 +52,19 @@ private:
     OwnedList<XmlDecibelType> m_items;
 };
 
-/// Angles: `<Degrees version="1.0"><Degrees .../></Degrees>`, at least one ("Too few pairs (min.
-/// 1)").
+/// Angles, at least one ("Too few pairs (min. 1)"). Where a device has them, list and items have the same tag:
+/// \code{.xml}
+/// <Degrees version="1.0">
+///     <Degrees version="1.0" unit="°">1.5</Degrees>
+///     <Degrees version="1.0" unit="°">2.0</Degrees>
+/// </Degrees>
+/// \endcode
 class ARVXML_EXPORT XmlDegreesListType : public XmlList {
 public:
     XmlDegreesListType();
-    /// The items, owned by the list.
+
+    /// The items, owned by the list. The setter replaces them by copies of the given ones.
     const QList<XmlDegreesType*>& degreeList() const { return m_items.items(); }
-    /// Replaces the items by copies of the given ones, which stay the caller's.
     void setDegreesList(const QList<XmlDegreesType*>& items) { m_items.set(items); }
 
 protected:
@@ -54,14 +74,19 @@ private:
     OwnedList<XmlDegreesType> m_items;
 };
 
-/// Frequencies: `<Frequencies version="1.0"><Frequency .../></Frequencies>`, at least one ("Too few
-/// frequencies (min. 1)").
+/// Frequencies, at least one ("Too few frequencies (min. 1)"):
+/// \code{.xml}
+/// <Frequencies version="1.0">
+///     <Frequency version="1.0" unit="MHz">30.000000</Frequency>
+///     <Frequency version="1.0" unit="MHz">88.000000</Frequency>
+/// </Frequencies>
+/// \endcode
 class ARVXML_EXPORT XmlFreqListType : public XmlList {
 public:
     XmlFreqListType();
-    /// The items, owned by the list.
+
+    /// The items, owned by the list. The setter replaces them by copies of the given ones.
     const QList<XmlFreqType*>& freqList() const { return m_items.items(); }
-    /// Replaces the items by copies of the given ones, which stay the caller's.
     void setFreqList(const QList<XmlFreqType*>& items) { m_items.set(items); }
 
 protected:
@@ -71,13 +96,23 @@ private:
     OwnedList<XmlFreqType> m_items;
 };
 
-/// A frequency and the receiver threshold at it:
-/// `<Pair version="1.0"><Frequency .../><RxThreshold .../></Pair>`, both required, in this order.
+/// A frequency and the receiver threshold at it, both required, in this order:
+/// \code{.xml}
+/// <Pair version="1.0">
+///     <Frequency version="1.0" unit="MHz">30.000000</Frequency>
+///     <RxThreshold version="1.0" unit="dBm">-100.000000000000000</RxThreshold>
+/// </Pair>
+/// \endcode
+/// Another version than "1.0" is read, and reported when the pair is judged. No other element holds this one.
 class ARVXML_EXPORT XmlFreqThrPairType : public XmlVersionedComposite {
 public:
     XmlFreqThrPairType();
+
+    /// The frequency, tag "Frequency".
     const XmlFreqType* frequency() const { return &m_frequency; }
     void setFrequency(const XmlFreqType& frequency) { m_frequency = frequency; }
+
+    /// The threshold, tag "RxThreshold".
     const XmlFieldstrengthType* fieldstrength() const { return &m_threshold; }
     void setFieldstrength(const XmlFieldstrengthType& threshold) { m_threshold = threshold; }
 
@@ -89,14 +124,14 @@ private:
     XmlFieldstrengthType m_threshold;
 };
 
-/// Thresholds by frequency: `<Thresholds version="1.0"><Pair .../></Thresholds>`, at least one ("Too
-/// few pairs (min. 1)").
+/// Thresholds by frequency, at least one ("Too few pairs (min. 1)"):
+/// `<Thresholds version="1.0"><Pair version="1.0">...</Pair></Thresholds>`. No other element holds this one.
 class ARVXML_EXPORT XmlFreqThrListType : public XmlList {
 public:
     XmlFreqThrListType();
-    /// The items, owned by the list.
+
+    /// The items, owned by the list. The setter replaces them by copies of the given ones.
     const QList<XmlFreqThrPairType*>& freqThrPairs() const { return m_items.items(); }
-    /// Replaces the items by copies of the given ones, which stay the caller's.
     void setFreqThrPairs(const QList<XmlFreqThrPairType*>& items) { m_items.set(items); }
 
 protected:
