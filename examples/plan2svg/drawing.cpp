@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -174,7 +175,7 @@ public:
         drawGrid();
         m_writer.writeStartElement(latin1("g"));
         attribute("clip-path", latin1("url(#map)"));
-        for (const Feature& feature : m_features)
+        for (const Feature& feature : std::as_const(m_features))
             drawShape(feature);
         drawLabels();
         m_writer.writeEndElement();
@@ -325,7 +326,7 @@ private:
     void drawLabels()
     {
         QVector<QRectF> taken;
-        for (const Feature& feature : m_features) {
+        for (const Feature& feature : std::as_const(m_features)) {
             const QRectF shape = shapeOf(feature);
             if (std::max(shape.width(), shape.height()) <= 2 * symbolSize)
                 taken.append(shape);

@@ -185,7 +185,8 @@ ModelChoice::ModelChoice(const QStringList& words, const XmlReferenceType& refer
         m_problem = QStringLiteral("There is no model \"%1\". The models: %2").arg(m_name, names());
         return;
     }
-    for (const QString& word : words.mid(1)) {
+    const QStringList settings = words.mid(1);
+    for (const QString& word : settings) {
         const QString parameter = word.section(QLatin1Char('='), 0, 0);
         if (!model->parameters.contains(parameter)) {
             m_problem = QStringLiteral("%1 has no parameter \"%2\". Its parameters: %3")
