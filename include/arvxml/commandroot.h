@@ -22,7 +22,8 @@ namespace ArvXml {
 ///     <Calculate>...</Calculate>
 /// </Commands>
 /// \endcode
-/// The blocks come in this order. All is optional; of every kind but the propagation model there may be any number.
+/// The blocks come in this order, each optional. Of every kind of command but the propagation model there may be any
+/// number.
 ///
 /// A root is filled by reading or copying only: a program that writes commands writes the document
 /// element itself, with the envelope and the commands as children. Each command read gets a copy of

@@ -59,7 +59,7 @@ protected:
 /// attribute: "unit""), its text is stored whatever it is, and judged afterwards.
 class ARVXML_EXPORT XmlReadUnitQuantity : public XmlQuantity {
 public:
-    /// The unit as it was read; that of the class on a new element.
+    /// The unit as it was read; on a new element the one that its class tells.
     const QString& unit() const { return m_unit; }
     void reset() override;
 

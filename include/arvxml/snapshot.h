@@ -30,7 +30,8 @@ namespace ArvXml {
 /// </Snapshot>
 /// \endcode
 /// There may be any number of each kind, grouped in this order. Results of the best sensor coverage cannot be shown.
-/// The objects belong to the request; adding one copies it.
+/// The objects belong to the request; adding one copies it. Of each kind, has...() is a number, in spite of the name.
+/// Single objects are not removed; reset() removes all.
 ///
 /// On reading, the path comes first and must hold text: behind an empty one, "DisplayedObjects" is
 /// refused. "DisplayedObjects" must be there, be it empty. The objects are appended to those held: reading
@@ -45,9 +46,6 @@ public:
     /// pieces of text (a comment cuts a text in two) the last is kept on reading.
     const QString& screenshotPath() const { return m_screenshotPath; }
     void setScreenshotPath(const QString& path) { m_screenshotPath = path; }
-
-    // Of each kind: how many there are (a number, in spite of the name), the objects, which stay the request's, and
-    // one more, which is copied. Single objects are not removed; reset() removes all.
 
     /// Deployment areas, tag "DeploymentArea": how many, all of them, one more.
     int hasDeployments() const { return m_deployments.size(); }
