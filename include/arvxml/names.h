@@ -58,8 +58,10 @@ protected:
     const TextRules& rules() const override;
 };
 
-/// The key of a map entry: `<Key>3</Key>`, a decimal integer, 0 or more ("XmlMapType: Illegal
-/// Key."). Default 0, also stored for a text that is no integer ("Illegal value (must be numeric)").
+/// The key of a map entry: `<Key>3</Key>`.
+///
+/// A decimal integer, 0 or more ("XmlMapType: Illegal Key."). Default 0, also stored for a text that is no integer
+/// ("Illegal value (must be numeric)").
 class ARVXML_EXPORT XmlKeyType : public XmlElement {
 public:
     XmlKeyType();
