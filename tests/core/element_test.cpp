@@ -857,6 +857,18 @@ private Q_SLOTS:
         QVERIFY(list.mySyntaxError().isEmpty());
     }
 
+    void aCarriageReturnComesBackAsALineFeed()
+    {
+        // Only a character reference brings one in. The stream writer does not make a reference of it again, and XML
+        // takes what it writes for the end of a line.
+        XmlObjNameType name;
+        QCOMPARE(readError(name, QStringLiteral("<Name>Hill&#13;Top&#13;&#10;North</Name>")), QString());
+        QCOMPARE(name.objName(), QStringLiteral("Hill\rTop\r\nNorth"));
+        QCOMPARE(written(name, QStringLiteral("Name")), QStringLiteral("<Name>Hill\rTop\r\nNorth</Name>"));
+        QCOMPARE(readError(name, QStringLiteral("<Name>Hill\rTop\r\nNorth</Name>")), QString());
+        QCOMPARE(name.objName(), QStringLiteral("Hill\nTop\nNorth"));
+    }
+
     void debugOutput()
     {
         XmlObjNameType name;
