@@ -8,11 +8,12 @@ namespace Bench {
 
 namespace {
 
-/// A text of its own, as long as need be. QStringRef::toString() may hand out the reader's own buffer with
+/// A text of its own, as long as need be. Its own toString() may hand out the reader's own buffer with
 /// all the room that it has, and the texts would lie too far apart for the processor's caches.
-QString compact(const QStringRef& text)
+template <typename Text>
+QString compact(const Text& text)
 {
-    return QString(text.unicode(), text.size());
+    return QString(text.data(), text.size());
 }
 
 } // namespace
@@ -20,7 +21,7 @@ QString compact(const QStringRef& text)
 Events recordEvents(const QByteArray& document)
 {
     QSet<QString> constants;
-    const auto constant = [&constants](const QStringRef& text) { return *constants.insert(compact(text)); };
+    const auto constant = [&constants](const auto& text) { return *constants.insert(compact(text)); };
 
     Events events;
     QXmlStreamReader reader(document);

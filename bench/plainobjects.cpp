@@ -6,7 +6,7 @@ namespace Bench::Plain {
 
 void refuse(QXmlStreamReader& reader)
 {
-    reader.raiseError(QStringLiteral("Unexpected element %1").arg(reader.name()));
+    reader.raiseError(QStringLiteral("Unexpected element %1").arg(reader.name().toString()));
 }
 
 namespace {
@@ -32,7 +32,7 @@ int readInteger(QXmlStreamReader& reader)
 double readFrequency(QXmlStreamReader& reader)
 {
     const QXmlStreamAttributes attributes = reader.attributes();
-    const QStringRef unit = attributes.value(QLatin1String("unit"));
+    const auto unit = attributes.value(QLatin1String("unit"));
     double factor = 1.0;
     if (unit == QLatin1String("MHz"))
         factor = 1.0;

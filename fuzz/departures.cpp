@@ -151,7 +151,7 @@ bool isLeftByReset(const Samples::ElementClass& elementClass)
 
 bool mustBeRefused(const ArvXml::IXmlElement& element, const QString& tag, const QByteArray& written)
 {
-    const int content = written.indexOf('>') + 1; // the element's own tag may be any
+    const int content = int(written.indexOf('>') + 1); // the element's own tag may be any
     return holdsWhatCannotBeReadBack(element, tag)
         || std::any_of(std::begin(refusedTags), std::end(refusedTags),
                        [&](const char* refused) { return written.indexOf(refused, content) >= 0; });

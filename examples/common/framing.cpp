@@ -9,11 +9,12 @@ QByteArray framed(const QByteArray& document)
 
 QVector<Frame> Framing::take(const QByteArray& bytes)
 {
+    using Size = decltype(bytes.size()); // each Qt counts in a type of its own
     QVector<Frame> complete;
-    int begin = 0;
+    Size begin = 0;
     while (begin < bytes.size()) {
-        const int nul = bytes.indexOf('\0', begin);
-        const int end = nul < 0 ? bytes.size() : nul;
+        const Size nul = bytes.indexOf('\0', begin);
+        const Size end = nul < 0 ? bytes.size() : nul;
         if (end - begin > maxLength - m_frame.document.size())
             m_frame = {QByteArray(), true};
         if (!m_frame.tooLong)

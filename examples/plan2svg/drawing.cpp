@@ -121,7 +121,7 @@ QPointF pointInside(const QVector<QPointF>& corners)
 {
     QPointF middle;
     for (const QPointF& corner : corners)
-        middle += corner / corners.size();
+        middle += corner / static_cast<double>(corners.size());
     QVector<double> crossings; // of the outline with the horizontal line through the middle
     for (int i = 0; i < corners.size(); ++i) {
         const QPointF from = corners.at(i);
@@ -341,7 +341,7 @@ private:
         const QString name = shortened(feature.name, maxNameLetters);
         if (name.isEmpty())
             return;
-        const double width = letterWidth * name.size();
+        const double width = letterWidth * static_cast<double>(name.size());
         const QRectF shape = shapeOf(feature);
         const bool isInside = feature.isArea() && shape.width() >= width && shape.height() >= letterHeight;
         const QPointF middle = isInside ? pointInside(placesOf(feature)) : shape.center();

@@ -42,8 +42,9 @@ Order orderFrom(const QByteArray& document)
     Order order;
     XmlCmdRoot root;
     const Document::ReadError error = Document::read(document, root);
-    order.commandCount = root.getAdministrativeCmds().size() + root.getCreateCmds().size() + root.getDeleteCmds().size()
-        + (root.getPropagationModelCmd() ? 1 : 0) + root.getCalculationCmds().size();
+    const auto inLists = root.getAdministrativeCmds().size() + root.getCreateCmds().size() + root.getDeleteCmds().size()
+        + root.getCalculationCmds().size();
+    order.commandCount = static_cast<int>(inLists) + (root.getPropagationModelCmd() ? 1 : 0);
     if (error) {
         order.problem = QStringLiteral("Line %1, column %2: %3").arg(error.line).arg(error.column).arg(error.text);
         return order;

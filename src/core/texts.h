@@ -41,7 +41,7 @@ inline bool isSameText(QStringView text, QStringView other)
     return !differ(size - 4); // the last four may have been looked at in part
 }
 
-/// A text of the stream, to keep. QStringRef::toString() would share the stream's own buffer when that holds nothing
+/// A text of the stream, to keep. With Qt 5, its toString() would share the stream's own buffer when that holds nothing
 /// else, with room for much more, and the stream would have to make itself another.
 template <typename Text>
 QString keptText(const Text& text)

@@ -381,7 +381,7 @@ void CalccommandTest::writingOrder()
 {
     // Set in the reverse order.
     XmlCmdCalc command;
-    for (int i = orders().size() - 1; i >= 0; --i)
+    for (int i = int(orders().size()) - 1; i >= 0; --i)
         orders()[i].set(command, orders()[i].xml);
     command.setCmdReference(reference(QStringLiteral("42")));
     QCOMPARE(written(command, calcTag),

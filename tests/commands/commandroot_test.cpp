@@ -87,8 +87,9 @@ XmlOrderDef envelope(const QString& id)
 /// How many commands of each kind are held, in the order of writing.
 QList<int> counts(const XmlCmdRoot& root)
 {
-    return {root.getAdministrativeCmds().size(), root.getCreateCmds().size(), root.getDeleteCmds().size(),
-            root.getPropagationModelCmd() ? 1 : 0, root.getCalculationCmds().size()};
+    return {int(root.getAdministrativeCmds().size()), int(root.getCreateCmds().size()),
+            int(root.getDeleteCmds().size()), root.getPropagationModelCmd() ? 1 : 0,
+            int(root.getCalculationCmds().size())};
 }
 
 /// The commands of all kinds, in the order of writing.
@@ -338,7 +339,7 @@ void CommandrootTest::gates()
     QList<int> read = {0, 0, 0, 0, 0};
     for (int i = 0; i < children.size(); ++i) {
         const QString& child = children[i];
-        const int kind = kinds.indexOf(child);
+        const int kind = int(kinds.indexOf(child));
         if (child == QLatin1String("ORDER_DEF"))
             xml += envelopeXml(firstId);
         else if (kind >= 0)

@@ -553,7 +553,7 @@ void checkUseAfterFailedRead()
             QStringLiteral("<%1>\n<%2%3><Other></Other></%2></%1>").arg(tagOf<C>(), QLatin1String(slot.tag), version);
         C broken;
         const QString error = readError(broken, xml);
-        const int column = QString::fromLatin1(slot.tag).size() + version.size() + 2 + 7;
+        const qint64 column = QString::fromLatin1(slot.tag).size() + version.size() + 2 + 7;
         const QString message = qstrcmp(slot.className, "XmlStationType") == 0
             ? QStringLiteral("Unexpected token \"StartElement\": Other")
             : QStringLiteral("Unexpected element \"Other\"");
@@ -570,7 +570,7 @@ void checkReaderErrors()
     const QString tag = tagOf<C>();
     const QString start = QStringLiteral("<%1>").arg(tag);
     const QString object = slotsOf<C>()[2].read();
-    const auto own = [&](int line, int column, const char* message) {
+    const auto own = [&](qint64 line, qint64 column, const char* message) {
         return QStringLiteral("in XmlCmd%1 (line %2, column %3): %4.")
             .arg(tag, QString::number(line), QString::number(column), QLatin1String(message));
     };
@@ -625,7 +625,7 @@ void checkPositions()
     QCOMPARE(onText.errorString(), QString());
     QVERIFY(one.isValid());
     one.processXml(onText, tag);
-    const int column = slotsOf<C>()[2].read().size() + referenceXml.size() + 9;
+    const qint64 column = slotsOf<C>()[2].read().size() + referenceXml.size() + 9;
     QCOMPARE(onText.errorString(),
              QStringLiteral("in XmlCmd%1 (line 2, column %2): Unexpected token \"EndDocument\".").arg(tag).arg(column));
 
@@ -673,10 +673,10 @@ void checkGate(const QStringList& children, bool accepted)
     for (int i = 0; i + 1 < children.size(); ++i)
         add(children[i]);
 
-    const int line = children.size() + 1;
+    const qint64 line = children.size() + 1;
     QString message;
-    int errorLine = line;
-    int column = next.size() + 2;
+    qint64 errorLine = line;
+    qint64 column = next.size() + 2;
     if (next == QLatin1String("End")) {
         xml += QStringLiteral("</%1>").arg(tag);
         column = 9;

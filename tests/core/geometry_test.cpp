@@ -297,7 +297,7 @@ void GeometryTest::readingStartsOnTheStartTag_data()
     QTest::addColumn<Kind>("kind");
     QTest::addColumn<int>("tokens");
     QTest::addColumn<QString>("error");
-    const auto wrong = [](const char* className, int line, int column) {
+    const auto wrong = [](const char* className, qint64 line, qint64 column) {
         return QStringLiteral("in %1 (line %2, column %3): Parse error (wrong position).")
             .arg(QLatin1String(className), QString::number(line), QString::number(column));
     };
@@ -448,11 +448,11 @@ void GeometryTest::coordinateChildrenAreGated_data()
     const QString otherLatitude = QStringLiteral("<Latitude>4</Latitude>");
     const QString other = QStringLiteral("<Other/>");
     const auto in = [](const QString& content) { return QStringLiteral("<C>%1</C>").arg(content); };
-    const auto start = [](int column, const char* tag) {
+    const auto start = [](qint64 column, const char* tag) {
         return QStringLiteral("in XmlCoordinateType (line 1, column %1): Unexpected token \"StartElement\": %2.")
             .arg(QString::number(column), QLatin1String(tag));
     };
-    const auto end = [](int column) {
+    const auto end = [](qint64 column) {
         return QStringLiteral("in XmlCoordinateType (line 1, column %1): Unexpected token \"EndElement\": C.")
             .arg(column);
     };
@@ -873,11 +873,11 @@ void GeometryTest::rectangleChildrenAreGated_data()
     const QString& right = lowerRightXml;
     const QString other = QStringLiteral("<Other/>");
     const auto in = [](const QString& content) { return QStringLiteral("<R>%1</R>").arg(content); };
-    const auto start = [](int column, const char* tag) {
+    const auto start = [](qint64 column, const char* tag) {
         return QStringLiteral("in XmlAreaRectType (line 1, column %1): Unexpected token \"StartElement\": %2.")
             .arg(QString::number(column), QLatin1String(tag));
     };
-    const auto end = [](int column) {
+    const auto end = [](qint64 column) {
         return QStringLiteral("in XmlAreaRectType (line 1, column %1): Unexpected token \"EndElement\": R.")
             .arg(column);
     };
@@ -1092,11 +1092,11 @@ void GeometryTest::polygonChildrenAreRead_data()
             xml += vertexXml(number); // 74 characters with a number of one digit
         return xml;
     };
-    const auto start = [](int column, const char* tag) {
+    const auto start = [](qint64 column, const char* tag) {
         return QStringLiteral("in XmlAreaPolyType (line 1, column %1): Unexpected token \"StartElement\": %2.")
             .arg(QString::number(column), QLatin1String(tag));
     };
-    const auto end = [](int column) {
+    const auto end = [](qint64 column) {
         return QStringLiteral("in XmlAreaPolyType (line 1, column %1): Unexpected token \"EndElement\": P.")
             .arg(column);
     };

@@ -562,7 +562,7 @@ void NamesTest::nameOrAllIsRead_data()
         return QStringLiteral("in XmlNameAllType (line 1, column %1): Unexpected element \"%2\".")
             .arg(parts[0], parts[1]);
     };
-    const auto end = [](int column) {
+    const auto end = [](qint64 column) {
         return QStringLiteral("in XmlNameAllType (line 1, column %1): Unexpected token \"EndElement\".").arg(column);
     };
 
@@ -848,7 +848,7 @@ void NamesTest::namesOrAllAreRead_data()
         return QStringLiteral("in XmlNameAllMultiType (line 1, column %1): Unexpected element \"%2\".")
             .arg(parts[0], parts[1]);
     };
-    const auto end = [](int column) {
+    const auto end = [](qint64 column) {
         return QStringLiteral("in XmlNameAllMultiType (line 1, column %1): Unexpected token \"EndElement\".")
             .arg(column);
     };

@@ -214,11 +214,11 @@ void OrderdefTest::childrenAreRead_data()
     const QString host = QStringLiteral("host");
     const QString none;
     const auto in = [](const QString& content) { return QStringLiteral("<ORDER_DEF>%1</ORDER_DEF>").arg(content); };
-    const auto start = [](int column, const char* tag) {
+    const auto start = [](qint64 column, const char* tag) {
         return QStringLiteral("in XmlOrderDef (line 1, column %1): Unexpected token \"StartElement\": %2.")
             .arg(QString::number(column), QLatin1String(tag));
     };
-    const auto end = [](int column) {
+    const auto end = [](qint64 column) {
         return QStringLiteral("in XmlOrderDef (line 1, column %1): Unexpected token \"EndElement\": ORDER_DEF.")
             .arg(column);
     };

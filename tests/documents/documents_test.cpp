@@ -110,7 +110,7 @@ private Q_SLOTS:
         QFETCH(QString, folder);
         QFETCH(QString, path);
         const QByteArray document = contentOf(path);
-        const int end = document.lastIndexOf('>');
+        const int end = int(document.lastIndexOf('>'));
         for (int length = 0; length < end; ++length) {
             const std::unique_ptr<IXmlElement> root = newRoot(folder);
             const Reading reading = read(*root, document.left(length));

@@ -98,7 +98,7 @@ public:
                 return QByteArray();
             m_received += m_socket.readAll();
         }
-        const int end = m_received.indexOf('\0');
+        const int end = int(m_received.indexOf('\0'));
         const QByteArray document = m_received.left(end);
         m_received.remove(0, end + 1);
         return document;

@@ -194,10 +194,10 @@ void InspectTest::whatIsRewrittenIsNotAlwaysReadable()
     QFETCH(QString, text);
     // One command of the plan, written and read again.
     const QString plan = QString::fromUtf8(sample("good/plan.xml"));
-    const int end = plan.indexOf(QStringLiteral("<Reference>%1</Reference>").arg(kept));
-    const int begin = plan.lastIndexOf(QLatin1String("<Create>"), end);
+    const int end = int(plan.indexOf(QStringLiteral("<Reference>%1</Reference>").arg(kept)));
+    const int begin = int(plan.lastIndexOf(QLatin1String("<Create>"), end));
     QVERIFY(begin > 0);
-    const int length = plan.indexOf(QLatin1String("</Create>"), end) + 9 - begin;
+    const int length = int(plan.indexOf(QLatin1String("</Create>"), end) + 9 - begin);
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("document.xml"));
     const auto write = [&path](const QString& document) {
@@ -276,8 +276,8 @@ void InspectTest::indentedResultsAreNotReadable()
 {
     // A request with one result alone: other elements of the sample cannot be read again, indented or not.
     const QString request = QString::fromUtf8(sample("good/snapshot.xml"));
-    const int begin = request.indexOf(QLatin1String("<Result_CEP"));
-    const int end = request.indexOf(QLatin1String("</Result_CEP>"), begin);
+    const int begin = int(request.indexOf(QLatin1String("<Result_CEP")));
+    const int end = int(request.indexOf(QLatin1String("</Result_CEP>"), begin));
     QVERIFY(begin > 0 && end > begin);
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("document.xml"));

@@ -185,8 +185,9 @@ QString areaOfInterest(const QString& name, const QVector<QPointF>& corners)
     }
     // The parameters of an area of the sample: they are not drawn.
     const QString request = QString::fromUtf8(sample("good/snapshot.xml"));
-    const int begin = request.indexOf(QLatin1String("<TxParameter"), request.indexOf(QLatin1String("<AreaOfInterest")));
-    const int end = request.indexOf(QLatin1String("</AreaOfInterest>"), begin);
+    const int begin =
+        int(request.indexOf(QLatin1String("<TxParameter"), request.indexOf(QLatin1String("<AreaOfInterest"))));
+    const int end = int(request.indexOf(QLatin1String("</AreaOfInterest>"), begin));
     return QStringLiteral("<AreaOfInterest><Name>%1</Name><AreaPolygon>%2</AreaPolygon>%3</AreaOfInterest>")
         .arg(name, vertices, request.mid(begin, end - begin));
 }
@@ -402,7 +403,7 @@ void Plan2svgTest::meridianLabelsDoNotOverlap()
     QVERIFY(meridians.size() >= 3);
     for (int i = 1; i < meridians.size(); ++i) {
         const double room = meridians.at(i).x - meridians.at(i - 1).x;
-        QVERIFY2(room > 6.6 * meridians.at(i).text.size(), qPrintable(meridians.at(i).text));
+        QVERIFY2(room > 6.6 * double(meridians.at(i).text.size()), qPrintable(meridians.at(i).text));
         QVERIFY(meridians.at(i).text != meridians.at(i - 1).text); // there are decimals enough
     }
 }

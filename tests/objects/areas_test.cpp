@@ -381,7 +381,7 @@ void checkReadingAreas()
     const QString second = QStringLiteral("<AreaRect><UpperLeft><Longitude>1</Longitude><Latitude>2</Latitude>"
                                           "</UpperLeft><LowerRight><Longitude>3</Longitude><Latitude>4</Latitude>"
                                           "</LowerRight></AreaRect>\n<AreaPolygon/>");
-    const int line = kind.all().indexOf(QStringLiteral("AreaPolygon")) + 3;
+    const qint64 line = kind.all().indexOf(QStringLiteral("AreaPolygon")) + 3;
     QCOMPARE(readError(area, documentWith<T>(second)),
              kind.message(line, 14, QStringLiteral("Unexpected element \"AreaPolygon\"")));
     QVERIFY(area.hasAreaRect() && !area.hasAreaPoly());

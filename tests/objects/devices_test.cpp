@@ -107,7 +107,7 @@ int firstRefused(const QStringList& tags)
                 return i;
         }
     }
-    return tags.size();
+    return int(tags.size());
 }
 
 bool isComplete(const QStringList& tags)
@@ -1087,7 +1087,7 @@ private Q_SLOTS:
         QCOMPARE(deviceChildren().size(), 9);
         int refusals = 0;
         for (const Child& child : deviceChildren())
-            refusals += child.refusedAfter.size();
+            refusals += int(child.refusedAfter.size());
         QCOMPARE(refusals, 9 + 8 + 7 + 6 + 2 + 6 + 5 + 5 + 3);
         QCOMPARE(lists().size(), 6);
     }

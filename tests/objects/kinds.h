@@ -153,7 +153,7 @@ struct Kind {
             }
             if (!open) {
                 const Child* const held = child(tag);
-                const int column = held ? held->xml.indexOf(QLatin1Char('>')) + 1 : tag.size() + 3;
+                const qint64 column = held ? held->xml.indexOf(QLatin1Char('>')) + 1 : tag.size() + 3;
                 return message(line, column, QString(refusedStart).replace(QStringLiteral("%1"), tag));
             }
             read->append(tag);
@@ -166,7 +166,7 @@ struct Kind {
     }
 
     /// A message of the reader as an element of this kind raises it.
-    QString message(int line, int column, const QString& text) const
+    QString message(qint64 line, qint64 column, const QString& text) const
     {
         return QStringLiteral("in %1 (line %2, column %3): %4.")
             .arg(className, QString::number(line), QString::number(column), text);
@@ -551,8 +551,8 @@ private Q_SLOTS:
                     break;
                 QStringList more = tags;
                 more.append(child.tag);
-                const int line = more.size() + 1;
-                const int column = child.xml.indexOf(QLatin1Char('>')) + 1;
+                const qint64 line = more.size() + 1;
+                const qint64 column = child.xml.indexOf(QLatin1Char('>')) + 1;
                 QCOMPARE(
                     readError(*kind->make(), kind->document(more)),
                     kind->message(line, column, QString(kind->refusedStart).replace(QStringLiteral("%1"), child.tag)));
@@ -802,7 +802,7 @@ private Q_SLOTS:
         QFETCH(const Kind*, kind);
         const auto element = kind->make();
         QCOMPARE(readError(*element, kind->document(kind->all())), QString());
-        const auto check = [&](QXmlStreamReader& reader, int line, int column) {
+        const auto check = [&](QXmlStreamReader& reader, qint64 line, qint64 column) {
             kind->setVersion(*element, QStringLiteral("9"));
             element->processXml(reader, QStringLiteral("S"));
             QCOMPARE(reader.errorString(), kind->message(line, column, QStringLiteral("Parse error (wrong position)")));

@@ -54,7 +54,7 @@ struct Kind {
                     return i;
             }
         }
-        return tags.size();
+        return int(tags.size());
     }
 
     /// An element of these children, each on a line of its own, from the second line on.
@@ -66,7 +66,7 @@ struct Kind {
         return xml + QStringLiteral("</E>");
     }
 
-    QString unexpectedElement(int line, int column, const QString& tag) const
+    QString unexpectedElement(qint64 line, qint64 column, const QString& tag) const
     {
         return QStringLiteral("in %1 (line %2, column %3): Unexpected element \"%4\".")
             .arg(QLatin1String(className))
@@ -74,7 +74,7 @@ struct Kind {
             .arg(column)
             .arg(tag);
     }
-    QString unexpectedEnd(int line) const
+    QString unexpectedEnd(qint64 line) const
     {
         return QStringLiteral("in %1 (line %2, column 4): Unexpected token \"EndElement\".")
             .arg(QLatin1String(className))
@@ -86,7 +86,7 @@ struct Kind {
     {
         const int refused = firstRefused(tags);
         if (refused < tags.size()) {
-            const int startTag = child(tags.at(refused)).xml.indexOf(QLatin1Char('>')) + 1;
+            const int startTag = int(child(tags.at(refused)).xml.indexOf(QLatin1Char('>')) + 1);
             return unexpectedElement(refused + 2, startTag, tags.at(refused));
         }
         for (const QString& tag : required) {
@@ -771,7 +771,7 @@ private Q_SLOTS:
         const Kind& kind = get();
         const auto element = kind.make();
         const QString error = readError(*element, kind.xml({before, tag}));
-        const int startTag = kind.child(tag).xml.indexOf(QLatin1Char('>')) + 1;
+        const int startTag = int(kind.child(tag).xml.indexOf(QLatin1Char('>')) + 1);
         if (refused)
             QCOMPARE(error, kind.unexpectedElement(3, startTag, tag));
         else if (kind.required == QStringList{before, tag})
@@ -1240,7 +1240,7 @@ private Q_SLOTS:
         const char* classes[] = {"XmlFreqType", "XmlPowerType", "XmlLengthType", "XmlBandwidthType",
                                  "XmlFieldstrengthType"};
         const QString tag = kind.children.at(wrong).tag;
-        const int index = words("Frequency TxPower AntennaHeight Bandwidth RxThreshold").indexOf(tag);
+        const int index = int(words("Frequency TxPower AntennaHeight Bandwidth RxThreshold").indexOf(tag));
         QString xml = kind.xml(kind.tags());
         xml.replace(QLatin1Char('<') + tag + QLatin1Char(' '),
                     QLatin1Char('<') + tag + QLatin1String(" version=\"x\" "));

@@ -145,7 +145,7 @@ Expected expectedOf(const QString& xml)
         return result;
     }();
     Expected expected;
-    int firstEnd = xml.size() + 1;
+    auto firstEnd = xml.size() + 1;
     for (std::size_t i = 0; i < places.size(); ++i) {
         const QRegularExpressionMatch match = places[i].match(xml);
         if (!match.hasMatch() || match.capturedEnd() >= firstEnd)
@@ -155,8 +155,8 @@ Expected expectedOf(const QString& xml)
     }
     if (expected.rule) {
         const QString before = xml.left(firstEnd);
-        const int line = before.count(QLatin1Char('\n')) + 1;
-        const int column = firstEnd - (before.lastIndexOf(QLatin1Char('\n')) + 1);
+        const qint64 line = before.count(QLatin1Char('\n')) + 1;
+        const qint64 column = firstEnd - (before.lastIndexOf(QLatin1Char('\n')) + 1);
         const QString message = QString::fromUtf8(expected.rule->message);
         expected.error = expected.rule->className ? QStringLiteral("in %1 (line %2, column %3): %4.")
                                                         .arg(QString::fromLatin1(expected.rule->className),

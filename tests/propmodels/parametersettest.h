@@ -687,7 +687,7 @@ private Q_SLOTS:
         int position = 0;
         for (int parameter = 0; parameter < size(); ++parameter) {
             const QString start = QLatin1Char('<') + row(parameter).writtenTag + QLatin1Char('>');
-            const int found = xml.indexOf(start, position + 1);
+            const int found = int(xml.indexOf(start, position + 1));
             QVERIFY2(found > position, qPrintable(xml));
             position = found;
         }

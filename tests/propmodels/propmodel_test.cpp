@@ -981,7 +981,7 @@ void PropmodelTest::problemsInOrder()
     Command command;
     Plain plain;
     QString sets;
-    for (int i = parts().size() - 1; i >= 0; --i) {
+    for (int i = int(parts().size()) - 1; i >= 0; --i) {
         parts()[i].set(command, parts()[i].invalidXml);
         parts()[i].set(plain, parts()[i].invalidXml);
         if (i > 0)

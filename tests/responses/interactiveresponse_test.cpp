@@ -201,7 +201,7 @@ template <typename E>
 E elementWith(int held, const QString& name)
 {
     E element;
-    for (int i = membersOf<E>().size() - 1; i >= 0; --i) {
+    for (int i = int(membersOf<E>().size()) - 1; i >= 0; --i) {
         if (held & (1 << i))
             membersOf<E>()[i].set(element, name);
     }
@@ -249,7 +249,7 @@ void checkNewElement()
 template <typename E>
 void checkAccessors()
 {
-    const int count = membersOf<E>().size();
+    const int count = int(membersOf<E>().size());
     for (int i = 0; i < count; ++i) {
         const Member<E>& member = membersOf<E>()[i];
         const QString tag = QString::fromLatin1(member.tag);
@@ -290,7 +290,7 @@ template <typename E>
 void checkJudgement()
 {
     // Each member is absent, valid or invalid.
-    const int count = membersOf<E>().size();
+    const int count = int(membersOf<E>().size());
     int combinations = 1;
     for (int i = 0; i < count; ++i)
         combinations *= 3;
@@ -320,7 +320,7 @@ void checkJudgement()
 template <typename E>
 void checkCopies()
 {
-    const int count = membersOf<E>().size();
+    const int count = int(membersOf<E>().size());
     const int all = (1 << count) - 1;
     auto source = elementWith<E>(all, first);
     E copy(source);
@@ -358,7 +358,7 @@ void checkCopies()
 template <typename E>
 void checkReset()
 {
-    const int all = (1 << membersOf<E>().size()) - 1;
+    const int all = int((1 << membersOf<E>().size()) - 1);
     auto used = elementWith<E>(all, QString());
     QVERIFY(!used.syntaxError().isEmpty());
     used.reset();

@@ -598,7 +598,7 @@ void ResultinfoTest::bothAreasAreNotReadBack()
     QCOMPARE(xml, withChildren("<R version=\"1.0\">{N}{P}{R}{G}{V}</R>"));
 
     const RecordPointer again = kind->make();
-    const int column = withChildren("<R version=\"1.0\">{N}{P}<AreaRect version=\"1.0\">").size();
+    const qint64 column = withChildren("<R version=\"1.0\">{N}{P}<AreaRect version=\"1.0\">").size();
     QCOMPARE(readError(*again, xml),
              QStringLiteral("in %1 (line 1, column %2): Unexpected element \"AreaRect\".")
                  .arg(kind->messageName, QString::number(column)));
@@ -666,8 +666,8 @@ void ResultinfoTest::order()
 
         QStringList read;
         QString message;
-        int line = 1;
-        int column = 0;
+        qint64 line = 1;
+        qint64 column = 0;
         for (const QString& tag : sequence) {
             ++line;
             if (!mayFollow(read.isEmpty() ? QString() : read.last()).contains(tag)) {

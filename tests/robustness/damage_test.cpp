@@ -414,7 +414,7 @@ QString occurrenceOf(const QString& owner, const QString& tag)
             continue;
         const QStringList words = QString::fromLatin1(row.children).split(QLatin1Char(' '));
         for (const QString& word : words) {
-            if (word.leftRef(word.size() - 1) == tag)
+            if (QStringView(word).left(word.size() - 1) == tag)
                 return word.right(1);
         }
     }
@@ -454,6 +454,13 @@ struct Node {
     }
 };
 
+/// Where \a what is in \a text from \a at on, below zero when nowhere. Each Qt counts in a type of its own.
+template <typename What>
+int placeOf(What what, const QString& text, int at)
+{
+    return static_cast<int>(text.indexOf(what, at));
+}
+
 /// The elements of a well-formed document in document order, the document element first.
 class Tree {
 public:
@@ -461,19 +468,19 @@ public:
     {
         std::vector<int> open;
         int at = 0;
-        while ((at = text.indexOf(QLatin1Char('<'), at)) >= 0) {
+        while ((at = placeOf(QLatin1Char('<'), text, at)) >= 0) {
             const QStringView rest = QStringView(text).mid(at);
             if (rest.startsWith(QLatin1String("<!--"))) {
-                at = text.indexOf(QLatin1String("-->"), at) + 3;
+                at = placeOf(QLatin1String("-->"), text, at) + 3;
             } else if (rest.startsWith(QLatin1String("<?"))) {
-                at = text.indexOf(QLatin1String("?>"), at) + 2;
+                at = placeOf(QLatin1String("?>"), text, at) + 2;
             } else if (rest.startsWith(QLatin1String("</"))) {
                 Node& node = nodes[std::size_t(open.back())];
                 node.endBegin = at;
-                at = node.end = text.indexOf(QLatin1Char('>'), at) + 1;
+                at = node.end = placeOf(QLatin1Char('>'), text, at) + 1;
                 open.pop_back();
             } else {
-                const int close = text.indexOf(QLatin1Char('>'), at);
+                const int close = placeOf(QLatin1Char('>'), text, at);
                 const bool isEmpty = text.at(close - 1) == QLatin1Char('/');
                 Node node{open.empty() ? -1 : open.back(), {}, at, close + 1, close + 1, close + 1, {}, {}, {}};
                 readTag(text.mid(at, (isEmpty ? close - 1 : close) - at), node);
@@ -508,10 +515,10 @@ private:
             ++at;
         node.tag = tag.mid(1, at - 1);
         while (true) {
-            const int equals = tag.indexOf(QLatin1Char('='), at);
+            const int equals = placeOf(QLatin1Char('='), tag, at);
             if (equals < 0)
                 return;
-            const int close = tag.indexOf(tag.at(equals + 1), equals + 2) + 1;
+            const int close = placeOf(tag.at(equals + 1), tag, equals + 2) + 1;
             node.attributes.push_back({tag.mid(at, equals - at).trimmed(), tag.mid(equals + 2, close - equals - 3),
                                        node.begin + at, node.begin + close});
             at = close;
@@ -556,13 +563,13 @@ int offsetOf(const QString& text, qint64 line, qint64 column)
 {
     int at = 0;
     for (; line > 1; --line)
-        at = text.indexOf(QLatin1Char('\n'), at) + 1;
+        at = placeOf(QLatin1Char('\n'), text, at) + 1;
     return at + int(column);
 }
 QString lineAndColumn(const QString& text, int place)
 {
-    const int lineStart = place == 0 ? 0 : text.lastIndexOf(QLatin1Char('\n'), place - 1) + 1;
-    const int line = int(text.leftRef(lineStart).count(QLatin1Char('\n'))) + 1;
+    const int lineStart = place == 0 ? 0 : int(text.lastIndexOf(QLatin1Char('\n'), place - 1)) + 1;
+    const int line = int(std::count(text.begin(), text.begin() + lineStart, QLatin1Char('\n'))) + 1;
     return QStringLiteral("(line %1, column %2)").arg(line).arg(place - lineStart);
 }
 
@@ -683,7 +690,10 @@ struct Sample {
                              .arg(error.className, lineAndColumn(damaged, moved.place), error.message);
         return moved;
     }
-    Error errorIn(const QString& damaged, int end) const { return errorIn(damaged, end, damaged.size() - text.size()); }
+    Error errorIn(const QString& damaged, int end) const
+    {
+        return errorIn(damaged, end, int(damaged.size() - text.size()));
+    }
 };
 
 /// Whether one error in the words of the protocol is right where it stands in \a tree: the class reads there, and
@@ -785,8 +795,8 @@ QByteArray contentOf(const QString& path)
     const QByteArray tag = path.section(QLatin1Char('#'), 1).toLatin1();
     if (tag.isEmpty())
         return content;
-    const int at = content.indexOf('<' + tag);
-    const int begin = content.lastIndexOf("<Create>", at);
+    const int at = int(content.indexOf('<' + tag));
+    const int begin = int(content.lastIndexOf("<Create>", at));
     const QByteArray end = "</Create>";
     return "<Commands>\n" + content.mid(begin, content.indexOf(end, at) + end.size() - begin) + "\n</Commands>\n";
 }
@@ -887,8 +897,9 @@ private Q_SLOTS:
         QFETCH(QString, path);
         const Sample sample(contentOf(path));
         // The error of the whole document comes as soon as all of it stands there.
-        const int errorEnd = sample.error.text.isEmpty() ? -1 : sample.text.leftRef(sample.error.place).toUtf8().size();
-        const int rootEnd = sample.text.leftRef(sample.tree.node(0).end).toUtf8().size();
+        const int errorEnd =
+            sample.error.text.isEmpty() ? -1 : int(sample.text.left(sample.error.place).toUtf8().size());
+        const int rootEnd = int(sample.text.left(sample.tree.node(0).end).toUtf8().size());
 
         for (int length = 0; length < sample.document.size(); ++length) {
             ++theCases;
@@ -901,7 +912,7 @@ private Q_SLOTS:
             } else if (length >= rootEnd) {
                 compare(error, {}, what);
             } else {
-                const int end = QString::fromUtf8(document).size();
+                const int end = int(QString::fromUtf8(document).size());
                 // Cut inside a text that is read whole, nothing of it is seen.
                 int cutText = -1;
                 for (int index = 0; index < int(sample.tree.nodes.size()); ++index) {
@@ -915,7 +926,7 @@ private Q_SLOTS:
                             what);
                 } else {
                     QCOMPARE(error.text, QStringLiteral("Premature end of document."));
-                    const int lastTag = sample.text.leftRef(end).lastIndexOf(QLatin1Char('<'));
+                    const int lastTag = int(sample.text.left(end).lastIndexOf(QLatin1Char('<')));
                     QVERIFY2(error.place <= end && error.place >= lastTag, qPrintable(what));
                 }
             }
@@ -976,10 +987,9 @@ private Q_SLOTS:
             if (next == siblings.cend())
                 continue; // the last one has none to be swapped with
             const Node& other = sample.tree.node(*next);
-            const QString damaged = sample.text.left(node.begin)
-                + sample.text.midRef(other.begin, other.end - other.begin)
-                + sample.text.midRef(node.end, other.begin - node.end)
-                + sample.text.midRef(node.begin, node.end - node.begin) + sample.text.midRef(other.end);
+            const QString damaged = sample.text.left(node.begin) + sample.text.mid(other.begin, other.end - other.begin)
+                + sample.text.mid(node.end, other.begin - node.end) + sample.text.mid(node.begin, node.end - node.begin)
+                + sample.text.mid(other.end);
             checkStructure(sample, index, damaged, other.end, Damage::Swapped);
         }
     }
@@ -1000,14 +1010,14 @@ private Q_SLOTS:
             const Error error = readDamaged(sample, damaged, what);
             if (index == 0) {
                 // The tag of the document element is free, and no error speaks of it.
-                compare(error, sample.errorIn(damaged, node.startEnd, other.size() - node.tag.size()), what);
+                compare(error, sample.errorIn(damaged, node.startEnd, int(other.size() - node.tag.size())), what);
             } else if (sample.endsBefore(node.begin + 1)) {
                 compare(error, sample.error, what);
             } else {
                 const QString owner = sample.tree.owner(node.parent).readBy;
                 compare(
                     error,
-                    protocolError(damaged, node.startEnd + other.size() - node.tag.size(), owner,
+                    protocolError(damaged, node.startEnd + int(other.size() - node.tag.size()), owner,
                                   QString::fromLatin1(classRow(owner).words.start).replace(QLatin1String("%1"), other)),
                     what);
             }
@@ -1037,8 +1047,8 @@ private Q_SLOTS:
                         compare(error, sample.errorIn(damaged, node.startEnd), what + how);
                     else
                         compare(error,
-                                protocolError(damaged, node.startEnd + damaged.size() - sample.text.size(), node.readBy,
-                                              QString::fromLatin1(message)),
+                                protocolError(damaged, node.startEnd + int(damaged.size() - sample.text.size()),
+                                              node.readBy, QString::fromLatin1(message)),
                                 what + how);
                 };
 
@@ -1108,13 +1118,13 @@ private Q_SLOTS:
                 const auto refusedAt = [&](int place) {
                     return protocolError(damaged, place, rule.className, QString::fromLatin1(rule.error));
                 };
-                const int textEnd = node.startEnd + piece.text.size();
+                const int textEnd = node.startEnd + int(piece.text.size());
                 if (sample.endsBefore(node.startEnd)) {
                     compare(error, sample.error, what);
                 } else if (piece.length < 0) {
                     // The reader's error ends the text. A text that is read whole is then looked at as far as it
                     // goes, that is, not at all, and a refusal takes the place of the error.
-                    const int place = node.startEnd + piece.text.indexOf(QLatin1Char(';')) + 1;
+                    const int place = node.startEnd + int(piece.text.indexOf(QLatin1Char(';'))) + 1;
                     if (rule.isReadWhole && rule.refusesNothing())
                         compare(error, refusedAt(place), what);
                     else
@@ -1122,7 +1132,7 @@ private Q_SLOTS:
                 } else if (node.tag == QLatin1String("ScreenshotPath") && piece.text.isEmpty()) {
                     // The path is read once it holds text; until then nothing may follow it.
                     const Node& next = sample.tree.node(index + 1);
-                    const int place = next.startEnd + damaged.size() - sample.text.size();
+                    const int place = next.startEnd + int(damaged.size() - sample.text.size());
                     compare(error, protocolError(damaged, place, rule.className, QString::fromLatin1(plain.start)),
                             what);
                 } else if (piece.text.isEmpty() ? rule.isReadWhole && rule.refusesNothing()
@@ -1171,7 +1181,7 @@ private:
         // Whole again, when the sample was refused for the very piece.
         if (error == moved || (!sample.error.text.isEmpty() && error.text.isEmpty()))
             return;
-        const int end = owner.end + damaged.size() - sample.text.size();
+        const int end = owner.end + int(damaged.size() - sample.text.size());
         if (error.className.isEmpty() || error.place <= node.begin || error.place > end
             || !isRefusal(Tree(damaged), error))
             QTest::qFail(qPrintable(what + QLatin1String(": ") + describe(error)), __FILE__, __LINE__);

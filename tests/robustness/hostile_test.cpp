@@ -176,7 +176,7 @@ QString framed(const char* className, const QString& problems)
     return QStringLiteral("+++ in %1 Begin:\n%2\n--- in %1 End").arg(QLatin1String(className), problems);
 }
 
-QString protocolError(const char* className, int column, const char* message)
+QString protocolError(const char* className, qint64 column, const char* message)
 {
     return QStringLiteral("in %1 (line 1, column %2): %3.")
         .arg(QLatin1String(className))
@@ -678,7 +678,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("error"); // of a reader that has no limit for names
         const QByteArray name(1000000 / fewer, 'n');
         const QString text = QString::fromLatin1(name);
-        const auto refused = [&](const char* className, int column, const QString& message) {
+        const auto refused = [&](const char* className, qint64 column, const QString& message) {
             return QStringLiteral("in %1 (line 1, column %2): %3.")
                 .arg(QLatin1String(className))
                 .arg(column)

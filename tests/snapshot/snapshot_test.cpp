@@ -484,7 +484,7 @@ void SnapshotTest::writtenInOrder()
     Request request;
     request.setScreenshotPath(QStringLiteral("p"));
     for (const char* name : {"A", "B"}) {
-        for (int i = kinds().size() - 1; i >= 0; --i)
+        for (int i = int(kinds().size()) - 1; i >= 0; --i)
             kinds().at(i).add(request, name);
     }
     QCOMPARE(held(request), text(allHeld));
@@ -570,11 +570,11 @@ void SnapshotTest::order()
         QStringList read;
         int last = 0;
         for (int i = 0; i < sequence.size(); ++i) {
-            const int place = tags.indexOf(sequence.at(i));
+            const int place = int(tags.indexOf(sequence.at(i)));
             const QString name = QString::number(i);
             objects += QLatin1Char('\n') + kinds().at(place).xml(name);
             if (error.isEmpty() && place < last) {
-                const int column = QStringLiteral("<%1 version=\"1.0\">").arg(sequence.at(i)).size();
+                const qint64 column = QStringLiteral("<%1 version=\"1.0\">").arg(sequence.at(i)).size();
                 error = QStringLiteral("in XmlArvBtType (line %1, column %2): Unexpected token \"StartElement\".")
                             .arg(QString::number(i + 2), QString::number(column));
             } else if (error.isEmpty()) {
@@ -1076,7 +1076,7 @@ void SnapshotTest::everythingWrong()
 {
     Request request;
     request.setVersion(QStringLiteral("2.0"));
-    for (int i = kinds().size() - 1; i >= 0; --i) {
+    for (int i = int(kinds().size()) - 1; i >= 0; --i) {
         kinds().at(i).add(request, "A", "3.0");
         kinds().at(i).add(request, "B");
         kinds().at(i).add(request, "C", "4.0");

@@ -208,7 +208,7 @@ struct Text : Exact {
             if (text.size() + wide.size() <= length && random.oneIn(40))
                 text += wide;
             else
-                text += letters.at(random.below(letters.size()));
+                text += letters.at(random.below(int(letters.size())));
         }
         return text;
     }

@@ -16,10 +16,10 @@ struct Refusal {
 /// "|" in \a marked shows up to where the document has been read when \a message is raised.
 inline Refusal refusal(const QString& marked, const QString& className, const QString& message)
 {
-    const int mark = marked.indexOf(QLatin1Char('|'));
+    const int mark = int(marked.indexOf(QLatin1Char('|')));
     const QString before = marked.left(mark);
-    const int line = before.count(QLatin1Char('\n')) + 1;
-    const int column = mark - (before.lastIndexOf(QLatin1Char('\n')) + 1);
+    const qint64 line = before.count(QLatin1Char('\n')) + 1;
+    const qint64 column = mark - (before.lastIndexOf(QLatin1Char('\n')) + 1);
     return {before + marked.mid(mark + 1),
             QStringLiteral("in %1 (line %2, column %3): %4.")
                 .arg(className, QString::number(line), QString::number(column), message)};
