@@ -1,22 +1,57 @@
 #!/usr/bin/env bash
-# The shared library shows its element classes; the machinery behind them is hidden.
+# The shared library shows its element classes, all those that it showed before, and nothing of the machinery behind
+# them. The second file lists what it shows; programs linked with an earlier build need every line of it.
+#
+#   tests/install/symbols.sh LIBRARY LIST            compares the library with the list
+#   tests/install/symbols.sh LIBRARY LIST --update   writes the list anew
 set -euo pipefail
 
-symbols=$(nm -D --defined-only --demangle "$1" | sed 's/^[0-9a-f]* . //')
+library=$1 list=$2 mode=${3:-}
+
+fail() {
+    echo "FAILED: $*" >&2
+    exit 1
+}
+
+symbols=$(nm -D --defined-only --demangle "$library" | sed 's/^[0-9a-f]* . //')
 
 hidden='ElementForm|ElementReader|EnumerationTexts|EnumerationRules|QuantityRules|Content|Row|InnerEnd'
 if grep -E "^ArvXml::($hidden)(::|$)" <<<"$symbols"; then
-    echo "FAILED: machinery is visible" >&2
-    exit 1
+    fail "machinery is visible"
 fi
 if grep -vE '^((typeinfo( name)?|vtable) for |non-virtual thunk to )?ArvXml::' <<<"$symbols"; then
-    echo "FAILED: something outside the namespace is visible" >&2
-    exit 1
+    fail "something outside the namespace is visible"
 fi
 for class in XmlFreqType XmlCmdRoot XmlRespRoot; do
-    grep -q "^ArvXml::$class::$class()" <<<"$symbols" || {
-        echo "FAILED: $class is not visible" >&2
-        exit 1
-    }
+    grep -q "^ArvXml::$class::$class()" <<<"$symbols" || fail "$class is not visible"
 done
 echo "ok: only the interface is visible"
+
+# Left out are weak functions (W): inline functions and templates, which a program has in itself, and which compilers put
+# into the library or not as they please. Tables of virtual functions and type information (V) are weak too, but every
+# program needs them. Constructors and destructors have several symbols under one name and are listed once: of an
+# abstract class, some compilers leave out the symbol that nobody can use.
+current=$(nm -D --defined-only --demangle "$library" | awk '$2 != "W"' | sed 's/^[0-9a-f]* . //' | LC_ALL=C sort -u)
+if [ "$mode" = --update ]; then
+    printf '%s\n' "$current" >"$list"
+    echo "written: $list"
+    exit
+fi
+[ -z "$mode" ] || fail "unknown: $mode"
+lost=$(LC_ALL=C comm -13 <(printf '%s\n' "$current") "$list")
+added=$(LC_ALL=C comm -23 <(printf '%s\n' "$current") "$list")
+show() {
+    [ -z "$2" ] || printf '%s:\n%s\n' "$1" "$(sed 's/^/    /' <<<"$2")"
+}
+if [ -n "$lost$added" ]; then
+    {
+        show "Lost" "$lost"
+        show "Added" "$added"
+        echo "If that is meant, write the list anew, with both Qts, and commit it:"
+        echo "    $0 $library $list --update"
+        [ -z "$lost" ] || echo "Programs linked before need what is lost: raise the major version of the project, and so the soname."
+        [ -z "$added" ] || echo "What is added is there from the next minor version on: raise that."
+    } >&2
+    fail "the binary interface has changed"
+fi
+echo "ok: the binary interface is that of the list"
