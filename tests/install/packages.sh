@@ -1,0 +1,118 @@
+#!/usr/bin/env bash
+# Makes the Debian packages of the library, looks at what they say of themselves and what they bring, unpacks them into
+# a folder, and builds programs outside the project against that. Nothing is installed; `scripts/check packages` does.
+set -euo pipefail
+
+source_dir=$1 work_dir=$2 compiler=$3 generator=$4 qt=$5
+flags=()
+# shellcheck source=tests/install/outside.sh
+. "$source_dir/tests/install/outside.sh"
+# shellcheck source=scripts/lib/debs.sh
+. "$source_dir/scripts/lib/debs.sh"
+
+if ! command -v dpkg-deb >/dev/null; then
+    echo "SKIPPED: there is no dpkg here, so there are no packages to be made"
+    exit 0
+fi
+command -v dpkg-shlibdeps >/dev/null || fail "dpkg-shlibdeps is missing; the package dpkg-dev has it"
+command -v file >/dev/null || fail "file is missing; the package of the same name has it"
+
+# The build of the library is kept, so that only what has changed is built again.
+mkdir -p "$work_dir"
+cd "$source_dir"
+make_debs "$qt" "$work_dir/build" -G "$generator" -DCMAKE_CXX_COMPILER="$compiler" >"$work_dir/build.log" 2>&1 ||
+    {
+        tail -n 40 "$work_dir/build.log" >&2
+        fail "the packages cannot be made"
+    }
+
+if [ "$qt" = 5 ]; then
+    runtime=libarvxml1 qt_package=qtbase5-dev qt_version=5.15
+else
+    runtime=libarvxml-qt6-1 qt_package=qt6-base-dev qt_version=6.4
+fi
+development=lib$name-dev
+architecture=$(dpkg --print-architecture)
+library_dir=usr/lib/$(dpkg-architecture -qDEB_HOST_MULTIARCH)
+runtime_deb=$work_dir/build/packages/${runtime}_1.0.0_$architecture.deb
+development_deb=$work_dir/build/packages/${development}_1.0.0_$architecture.deb
+expect "there are two packages" "$(basename "$development_deb") $(basename "$runtime_deb") " \
+    "$(cd "$work_dir/build/packages" && find . -type f -printf '%f\n' | LC_ALL=C sort | tr '\n' ' ')"
+
+# What they say of themselves
+
+field() {
+    dpkg-deb -f "$1" "$2"
+}
+for deb in "$runtime_deb" "$development_deb"; do
+    expect "the version" "1.0.0" "$(field "$deb" Version)"
+    expect "the architecture" "$architecture" "$(field "$deb" Architecture)"
+    expect "the maintainer" "ArvXml maintainers <maintainers@arvxml.invalid>" "$(field "$deb" Maintainer)"
+    expect "no homepage" "" "$(field "$deb" Homepage)"
+done
+expect "the name" "$runtime" "$(field "$runtime_deb" Package)"
+expect "the section" "libs" "$(field "$runtime_deb" Section)"
+expect "the synopsis" "Objects for the XML documents of the planning protocol (Qt $qt)" \
+    "$(field "$runtime_deb" Description | head -n 1)"
+expect "what it is linked with it depends on" "libc6 libgcc-s1 libqt${qt}core${qt/5/5a} libqt${qt}network$qt libstdc++6" \
+    "$(field "$runtime_deb" Depends | tr ',' '\n' | awk '{ print $1 }' | sed 's/t64$//' | LC_ALL=C sort | xargs)"
+expect "the name" "$development" "$(field "$development_deb" Package)"
+expect "the section" "libdevel" "$(field "$development_deb" Section)"
+expect "the synopsis" "Objects for the XML documents of the planning protocol (Qt $qt, development)" \
+    "$(field "$development_deb" Description | head -n 1)"
+expect "it depends on the library of the same version and on Qt" "$runtime (= 1.0.0), $qt_package (>= $qt_version)" \
+    "$(field "$development_deb" Depends)"
+expect "other packages learn what to depend on" "lib$name 1 $runtime (>= 1.0.0)" "$(dpkg-deb -I "$runtime_deb" shlibs)"
+expect "the cache of libraries is renewed" "activate-noawait ldconfig" \
+    "$(dpkg-deb -I "$runtime_deb" triggers)"
+expect "the control files of the runtime package" "md5sums postinst postrm shlibs triggers" \
+    "$(dpkg-deb --ctrl-tarfile "$runtime_deb" | tar -t | sed 's|^\./||' | grep -v -e '^$' -e '^control$' | LC_ALL=C sort | xargs)"
+expect "the control files of the development package" "md5sums" \
+    "$(dpkg-deb --ctrl-tarfile "$development_deb" | tar -t | sed 's|^\./||' | grep -v -e '^$' -e '^control$' | xargs)"
+
+for script in postinst postrm; do # CPack writes them, for systems without the trigger
+    expect "$script renews the cache and does nothing else" "ldconfig" \
+        "$(dpkg-deb -I "$runtime_deb" $script | sed 's|^[[:space:]]*||' | grep -v -e '^#' -e '^set -e$' -e '^if ' -e '^fi$' -e '^$')"
+done
+
+# What they bring. The names of all files tell for which Qt they are, so that the packages for both can be installed.
+
+# content DEB: the paths of all files and links, without folders.
+content() {
+    dpkg-deb --fsys-tarfile "$1" | tar -t | sed 's|^\./||' | grep -v '/$' | LC_ALL=C sort
+}
+expect "the runtime package brings the library" "$library_dir/lib$name.so.1 $library_dir/lib$name.so.1.0.0" \
+    "$(content "$runtime_deb" | xargs)"
+expect "the development package brings these beside the headers" \
+    "$library_dir/cmake/$package/${package}Config.cmake
+$library_dir/cmake/$package/${package}ConfigVersion.cmake
+$library_dir/cmake/$package/${package}Targets-release.cmake
+$library_dir/cmake/$package/${package}Targets.cmake
+$library_dir/lib$name.so
+$library_dir/pkgconfig/$name.pc" \
+    "$(content "$development_deb" | grep -v "^usr/$include_folder/arvxml/")"
+headers=$(content "$development_deb" | sed -n "s|^usr/$include_folder/arvxml/||p")
+expect "all headers are there" "$(cd include/arvxml && find . -name '*.h' -printf '%f\n' | LC_ALL=C sort)" \
+    "$(grep '\.h$' <<<"$headers")"
+expect "and all classes" "$(sed -n 's/^class ARVXML_EXPORT \([A-Za-z0-9_]*\).*/\1/p' include/arvxml/*.h | LC_ALL=C sort)" \
+    "$(grep -v '\.h$' <<<"$headers")"
+expect "everything belongs to root, and nobody else writes it" "" \
+    "$(for deb in "$runtime_deb" "$development_deb"; do
+        dpkg-deb -c "$deb" | grep -v -e '^drwxr-xr-x root/root ' -e '^-rw-r--r-- root/root ' -e '^lrwxrwxrwx root/root '
+    done)"
+
+# What is built against it, unpacked
+
+root=$work_dir/root
+rm -rf "$root"
+dpkg-deb -x "$runtime_deb" "$root"
+dpkg-deb -x "$development_deb" "$root"
+expect_libraries "$root/$library_dir"
+expect "the library does not say where to look for others" "" \
+    "$(objdump -p "$root/$library_dir/lib$name.so" | grep -E 'RPATH|RUNPATH' || true)"
+expect_cmake -DCMAKE_PREFIX_PATH="$root/usr"
+export PKG_CONFIG_PATH=$root/$library_dir/pkgconfig LD_LIBRARY_PATH=$root/$library_dir
+expect_pkgconfig
+expect_readme
+expect "pkg-config finds the headers in a system root" "$root/usr/$include_folder" \
+    "$(realpath "$(PKG_CONFIG_SYSROOT_DIR=$root pkg-config --cflags-only-I "$name" | awk '{ print substr($1, 3) }')")"
