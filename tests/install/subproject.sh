@@ -15,7 +15,7 @@ check() {
     build_dir=$work_dir/$1-$2
     # Configured anew, but what was built is kept, so that only what has changed is built again.
     rm -rf "$build_dir"/{CMakeCache.txt,prefix}
-    configure subproject "$build_dir" -DHOW="$how" -DFIND_QT="$2" -DARVXML_SOURCES="$source_dir" -DARVXML_QT="$qt"
+    configure subproject "$build_dir" -DHOW="$how" -DFIND_QT="$2" -DARVXML_SOURCES="$source_dir" -DQT="$qt"
     echo "ok: $how changes nothing"
     expect "$how brings no tests" "Total Tests: 1" "$(ctest --test-dir "$build_dir" -N | grep Total)"
     cmake --install "$build_dir" --prefix "$build_dir/prefix" >>"$build_dir.log"
@@ -34,3 +34,5 @@ cmake --build "$build_dir" --parallel "$(nproc)" >>"$build_dir.log" 2>&1 ||
     }
 expect "a program with everything switched off runs" "$frequency
 valid" "$("$build_dir/parent")"
+expect "with the Qt that the project has chosen" "libQt${qt}Core.so.$qt" \
+    "$(objdump -p "$build_dir/parent" | awk '$1 == "NEEDED" && /Qt/ { print $2 }')"
