@@ -37,6 +37,8 @@ double ofBits(quint64 bits)
     return value;
 }
 
+constexpr bool isQt6 = std::is_same_v<StreamText, QStringView>;
+
 /// A part of \a text such as the stream hands out: the text and a place with Qt 5, a view with Qt 6.
 template <typename Text>
 Text part(const QString& text, int from, int length)
@@ -129,6 +131,9 @@ private Q_SLOTS:
     void longNumbersRead();
     void randomTextsRead();
     void partOfText();
+    void integersThatOnlyQt5Reads();
+    void timesThatOneQtReads_data();
+    void timesThatOneQtReads();
     void chosenTimesRead();
     void randomTimesRead();
 };
@@ -393,6 +398,48 @@ void NumbersTest::partOfText()
     QVERIFY(ok);
     QCOMPARE(toInteger(part<StreamText>(text, 1, 2), &ok), 91);
     QVERIFY(ok);
+}
+
+/// What neither we nor the protocol decide, but Qt: a change must be known.
+void NumbersTest::integersThatOnlyQt5Reads()
+{
+    for (const char* text : {"\u00a07", "7\u00a0", "\u20037", "7\u2028", "\u22127"}) {
+        const QString integer = QString::fromUtf8(text);
+        bool isInteger = false;
+        toInteger(integer, &isInteger);
+        QCOMPARE(isInteger, !isQt6);
+        bool isReal = false;
+        toReal(integer, &isReal);
+        QVERIFY2(isReal, text);
+    }
+    for (const char* text : {" 7", "7 ", "\t7\n"}) {
+        bool isInteger = false;
+        QCOMPARE(toInteger(QString::fromUtf8(text), &isInteger), 7);
+        QVERIFY2(isInteger, text);
+    }
+}
+
+void NumbersTest::timesThatOneQtReads_data()
+{
+    QTest::addColumn<QTime>("qt5");
+    QTest::addColumn<QTime>("qt6");
+    const QTime none;
+    QTest::newRow("2024-03-05T14:07:09 ") << QTime(14, 7, 9) << none;
+    QTest::newRow("2024-03-05T14:07:09UTC") << QTime(14, 7, 9) << none;
+    QTest::newRow("2024-03-05T14:07:9") << QTime(14, 7, 9) << none;
+    QTest::newRow("2024-03-05T14:07:09.") << QTime(14, 7, 9) << none;
+    QTest::newRow("2024-03-05T14:07:09 +01:00") << QTime(14, 7, 9) << none;
+    QTest::newRow("2024-+3-05T14:07:09") << QTime(14, 7, 9) << none;
+    QTest::newRow("2024-03-05T14") << none << QTime(14, 0);
+    QTest::newRow("2024-03-05T14.5") << none << QTime(14, 30);
+    QTest::newRow("2024-03-05T14:07:09.9999") << QTime(14, 7, 9, 999) << QTime(14, 7, 10);
+}
+
+void NumbersTest::timesThatOneQtReads()
+{
+    QFETCH(QTime, qt5);
+    QFETCH(QTime, qt6);
+    QCOMPARE(toDateTime(QString::fromLatin1(QTest::currentDataTag())).time(), isQt6 ? qt6 : qt5);
 }
 
 void NumbersTest::chosenTimesRead()
