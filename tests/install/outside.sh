@@ -55,7 +55,7 @@ expect_cmake() {
     configure versions "$work_dir/versions" -DARVXML_PACKAGE="$package" "$@"
     echo "ok: CMake finds versions 1 and 1.0 and refuses others"
     configure cmake "$work_dir/cmake" -DARVXML_PACKAGE="$package" "$@"
-    cmake --build "$work_dir/cmake" >>"$work_dir/cmake.log" || fail "the CMake project cannot be built: $work_dir/cmake.log"
+    cmake --build "$work_dir/cmake" >>"$work_dir/cmake.log" || fail "it cannot be built: see $work_dir/cmake.log"
     expect "a CMake project finds and links it" "$frequency" "$("$work_dir/cmake/outside")"
 }
 

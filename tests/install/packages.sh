@@ -54,7 +54,8 @@ expect "the name" "$runtime" "$(field "$runtime_deb" Package)"
 expect "the section" "libs" "$(field "$runtime_deb" Section)"
 expect "the synopsis" "Objects for the XML documents of the planning protocol (Qt $qt)" \
     "$(field "$runtime_deb" Description | head -n 1)"
-expect "what it is linked with it depends on" "libc6 libgcc-s1 libqt${qt}core${qt/5/5a} libqt${qt}network$qt libstdc++6" \
+expect "what it is linked with it depends on" \
+    "libc6 libgcc-s1 libqt${qt}core${qt/5/5a} libqt${qt}network$qt libstdc++6" \
     "$(field "$runtime_deb" Depends | tr ',' '\n' | awk '{ print $1 }' | sed 's/t64$//' | LC_ALL=C sort | xargs)"
 expect "the name" "$development" "$(field "$development_deb" Package)"
 expect "the section" "libdevel" "$(field "$development_deb" Section)"
@@ -65,14 +66,16 @@ expect "it depends on the library of the same version and on Qt" "$runtime (= 1.
 expect "other packages learn what to depend on" "lib$name 1 $runtime (>= 1.0.0)" "$(dpkg-deb -I "$runtime_deb" shlibs)"
 expect "the cache of libraries is renewed" "activate-noawait ldconfig" \
     "$(dpkg-deb -I "$runtime_deb" triggers)"
-expect "the control files of the runtime package" "md5sums postinst postrm shlibs triggers" \
-    "$(dpkg-deb --ctrl-tarfile "$runtime_deb" | tar -t | sed 's|^\./||' | grep -v -e '^$' -e '^control$' | LC_ALL=C sort | xargs)"
-expect "the control files of the development package" "md5sums" \
-    "$(dpkg-deb --ctrl-tarfile "$development_deb" | tar -t | sed 's|^\./||' | grep -v -e '^$' -e '^control$' | xargs)"
+control_files() {
+    dpkg-deb --ctrl-tarfile "$1" | tar -t | sed 's|^\./||' | grep -v '^$' | LC_ALL=C sort | xargs
+}
+expect "the control files of the runtime package" "control md5sums postinst postrm shlibs triggers" \
+    "$(control_files "$runtime_deb")"
+expect "the control files of the development package" "control md5sums" "$(control_files "$development_deb")"
 
 for script in postinst postrm; do # CPack writes them, for systems without the trigger
     expect "$script renews the cache and does nothing else" "ldconfig" \
-        "$(dpkg-deb -I "$runtime_deb" $script | sed 's|^[[:space:]]*||' | grep -v -e '^#' -e '^set -e$' -e '^if ' -e '^fi$' -e '^$')"
+        "$(dpkg-deb -I "$runtime_deb" $script | sed 's|^[[:space:]]*||' | grep -vE '^(#.*|set -e|if .*|fi)?$')"
 done
 
 # What they bring. The names of all files tell for which Qt they are, so that the packages for both can be installed.
@@ -94,7 +97,8 @@ $library_dir/pkgconfig/$name.pc" \
 headers=$(content "$development_deb" | sed -n "s|^usr/$include_folder/arvxml/||p")
 expect "all headers are there" "$(cd include/arvxml && find . -name '*.h' -printf '%f\n' | LC_ALL=C sort)" \
     "$(grep '\.h$' <<<"$headers")"
-expect "and all classes" "$(sed -n 's/^class ARVXML_EXPORT \([A-Za-z0-9_]*\).*/\1/p' include/arvxml/*.h | LC_ALL=C sort)" \
+expect "and all classes" \
+    "$(sed -n 's/^class ARVXML_EXPORT \([A-Za-z0-9_]*\).*/\1/p' include/arvxml/*.h | LC_ALL=C sort)" \
     "$(grep -v '\.h$' <<<"$headers")"
 expect "everything belongs to root, and nobody else writes it" "" \
     "$(for deb in "$runtime_deb" "$development_deb"; do

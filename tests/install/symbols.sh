@@ -27,8 +27,8 @@ for class in XmlFreqType XmlCmdRoot XmlRespRoot; do
 done
 echo "ok: only the interface is visible"
 
-# Left out are weak functions (W): inline functions and templates, which a program has in itself, and which compilers put
-# into the library or not as they please. Tables of virtual functions and type information (V) are weak too, but every
+# Left out are weak functions (W): inline functions and templates, which a program has in itself, and which compilers
+# put into the library or not as they please. Tables of virtual functions and type information (V) are weak too, but every
 # program needs them. Constructors and destructors have several symbols under one name and are listed once: of an
 # abstract class, some compilers leave out the symbol that nobody can use.
 current=$(nm -D --defined-only --demangle "$library" | awk '$2 != "W"' | sed 's/^[0-9a-f]* . //' | LC_ALL=C sort -u)
@@ -49,7 +49,7 @@ if [ -n "$lost$added" ]; then
         show "Added" "$added"
         echo "If that is meant, write the list anew, with both Qts, and commit it:"
         echo "    $0 $library $list --update"
-        [ -z "$lost" ] || echo "Programs linked before need what is lost: raise the major version of the project, and so the soname."
+        [ -z "$lost" ] || echo "Programs linked before need what is lost: raise the major version, and so the soname."
         [ -z "$added" ] || echo "What is added is there from the next minor version on: raise that."
     } >&2
     fail "the binary interface has changed"
