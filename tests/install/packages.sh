@@ -36,8 +36,8 @@ architecture=$(dpkg --print-architecture)
 library_dir=usr/lib/$(dpkg-architecture -qDEB_HOST_MULTIARCH)
 runtime_deb=$work_dir/build/packages/${runtime}_1.0.0_$architecture.deb
 development_deb=$work_dir/build/packages/${development}_1.0.0_$architecture.deb
-expect "there are two packages" "$(basename "$development_deb") $(basename "$runtime_deb") " \
-    "$(cd "$work_dir/build/packages" && find . -type f -printf '%f\n' | LC_ALL=C sort | tr '\n' ' ')"
+expect "there are two packages" "$(printf '%s\n' "$runtime_deb" "$development_deb" | LC_ALL=C sort)" \
+    "$(find "$work_dir/build/packages" -type f | LC_ALL=C sort)"
 
 # What they say of themselves
 

@@ -675,35 +675,42 @@ private Q_SLOTS:
     void longTags_data()
     {
         QTest::addColumn<QByteArray>("document");
-        QTest::addColumn<QString>("error"); // of a reader that has no limit for names
+        QTest::addColumn<QString>("error");  // of a reader that has no limit for names
+        QTest::addColumn<QString>("missed"); // by a reader that stops inside the name at its limit
         const QByteArray name(1000000 / fewer, 'n');
         const QString text = QString::fromLatin1(name);
+        const QString tagEnd = QStringLiteral("'>' or '/'");
         const auto refused = [&](const char* className, qint64 column, const QString& message) {
             return QStringLiteral("in %1 (line 1, column %2): %3.")
                 .arg(QLatin1String(className))
                 .arg(column)
                 .arg(message);
         };
-        QTest::newRow("of the document") << "<" + name + "><All/></" + name + ">" << QString();
+        QTest::newRow("of the document") << "<" + name + "><All/></" + name + ">" << QString() << tagEnd;
         QTest::newRow("of a child") << "<D><" + name + "/></D>"
                                     << refused("XmlNameAllType", name.size() + 6,
-                                               QStringLiteral("Unexpected element \"%1\"").arg(text));
-        QTest::newRow("of an attribute") << "<D " + name + "=\"1\"><All/></D>" << QString();
-        QTest::newRow("skipped") << "<D><Reference><" + name + "/></Reference><All/></D>" << QString();
-        QTest::newRow("of an instruction") << "<D><?" + name + "?><All/></D>" << QString();
+                                               QStringLiteral("Unexpected element \"%1\"").arg(text))
+                                    << tagEnd;
+        QTest::newRow("of an attribute") << "<D " + name + "=\"1\"><All/></D>" << QString() << QStringLiteral("'='");
+        QTest::newRow("skipped") << "<D><Reference><" + name + "/></Reference><All/></D>" << QString() << tagEnd;
+        QTest::newRow("of an instruction")
+            << "<D><?" + name + "?><All/></D>" << QString() << QStringLiteral("' ' or '?'");
     }
 
-    // Qt has a limit for names since it was found to need one; without it, the names are read or refused as others are.
+    // Qt has a limit for names since it was found to need one: Qt 5.15 tells so, Qt 6.4 stops there and misses what
+    // may follow a name. Without it, the names are read or refused as others are.
     void longTags()
     {
         QFETCH(QByteArray, document);
         QFETCH(QString, error);
+        QFETCH(QString, missed);
         const double start = processorSeconds();
         XmlNameAllType names;
         const QString actual = readDirectly(document, names);
         const QString limit =
             QStringLiteral("Length of XML attribute name exceeds implementation limits (4KiB characters).");
-        QVERIFY(actual == limit || isSame(actual, error));
+        const QString stopped = QStringLiteral("Expected %1, but got '[a-zA-Z]'.").arg(missed);
+        QVERIFY(actual == limit || actual == stopped || isSame(actual, error));
         QCOMPARE(names.isValid(), actual.isEmpty());
         QCOMPARE(names.syntaxError().isEmpty(), actual.isEmpty());
         QVERIFY(processorSeconds() - start < 2.0);
