@@ -40,14 +40,15 @@ XmlResInfo::XmlResInfo(const QString& className)
 ElementForm XmlResInfo::commonForm()
 {
     using Self = XmlResInfo;
+    // Each child needs the one before it, so that all before it have been read: it is refused after itself alone.
     return ElementForm(listWording)
         .children({
-            {"Name", Name, Name | Area | Comment, child<&Self::m_objName>()},
-            {"AreaPolygon", Area, Area | Comment, areaChoice<&Self::m_areaPoly, &Self::m_areaRect>(), Name},
-            {"AreaRect", Area, Area | Comment,
-             unjudged(reportedApart(readInsteadOf<&Self::m_areaRect, &Self::m_areaPoly>())), Name},
-            {"ResultGrid", Grid, Grid | Comment, child<&Self::m_resultGrid>(), Area},
-            {"Values", Values, Values | Comment, child<&Self::m_gridValues>(), Grid},
+            {"Name", Name, Name, child<&Self::m_objName>()},
+            {"AreaPolygon", Area, Area, areaChoice<&Self::m_areaPoly, &Self::m_areaRect>(), Name},
+            {"AreaRect", Area, Area, unjudged(reportedApart(readInsteadOf<&Self::m_areaRect, &Self::m_areaPoly>())),
+             Name},
+            {"ResultGrid", Grid, Grid, child<&Self::m_resultGrid>(), Area},
+            {"Values", Values, Values, child<&Self::m_gridValues>(), Grid},
         })
         .completeWith(Values)
         .refusesOtherVersions();
@@ -90,7 +91,7 @@ const ElementForm& XmlResInfo_BestSensor_Type::form() const
 {
     using Self = XmlResInfo_BestSensor_Type;
     static const ElementForm form = commonForm().children({
-        {"Comment", Comment, Comment, reportedApart(renewed<&Self::m_comment>()), Grid | Values},
+        {"Comment", Comment, Comment, reportedApart(renewed<&Self::m_comment>()), Values},
     });
     return form;
 }

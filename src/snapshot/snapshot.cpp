@@ -56,7 +56,7 @@ const ElementForm& XmlArvBtType::form() const
     using Self = XmlArvBtType;
     static const ElementForm form = ElementForm(leafWording)
                                         .children({
-                                            {pathTag, InPath, PathRead | InPath | ObjectsDone, entered()},
+                                            {pathTag, InPath, PathRead | InPath, entered()},
                                             {objectsTag, InObjects, InPath | ObjectsDone, entered(), PathRead},
                                             kind("DeploymentArea", Deployment, items<&Self::m_deployments>()),
                                             kind("AreaOfInterest", Aoi, items<&Self::m_aois>()),
