@@ -1,3 +1,4 @@
+#include "support/effort.h"
 #include "support/elementtest.h"
 
 #include <arvxml/geometry.h>
@@ -1419,8 +1420,8 @@ void GeometryTest::failedVertexFindsItsPlace()
 
 void GeometryTest::readingTimeDoesNotDependOnTheOrder()
 {
-    constexpr int count = 200000;
-    std::vector<int> rising(count);
+    const int count = TestEffort::reduced(200000);
+    std::vector<int> rising(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i)
         rising[static_cast<std::size_t>(i)] = i;
     const std::vector<int> falling(rising.rbegin(), rising.rend());

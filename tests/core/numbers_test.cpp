@@ -1,6 +1,7 @@
 #include "core/elementreader.h"
 #include "core/numbers.h"
 #include "core/times.h"
+#include "support/effort.h"
 
 #include <QtTest/QtTest>
 
@@ -15,6 +16,7 @@
 /// the same bits, the same text, the same answer whether it is one.
 
 using namespace ArvXml;
+using TestEffort::reduced;
 
 namespace {
 
@@ -191,7 +193,7 @@ void NumbersTest::tiesWritten()
     // Exactly between two texts: multiples of a half, a quarter ... of the last decimal.
     Verdict verdict;
     for (int shift = 1; shift <= 20; ++shift) {
-        for (int i = 1; i <= 3000; ++i)
+        for (int i = 1; i <= reduced(3000); ++i)
             compareWritten(verdict, std::ldexp(i, -shift));
     }
     QVERIFY2(verdict.isGood(), verdict.firstFailure());
@@ -201,7 +203,7 @@ void NumbersTest::powersWritten()
 {
     // Powers of two and of ten, and their neighbours.
     Verdict verdict;
-    for (int exponent = -1074; exponent <= 1023; ++exponent) {
+    for (int exponent = -1074; exponent <= 1023; exponent += TestEffort::divisor()) {
         const double power = std::ldexp(1.0, exponent);
         for (const double value : {power, std::nextafter(power, 0.0), std::nextafter(power, Limits::max())})
             compareWritten(verdict, value);
@@ -218,14 +220,14 @@ void NumbersTest::randomNumbersWritten()
 {
     std::mt19937_64 random(20240305);
     Verdict verdict;
-    for (int i = 0; i < 20000; ++i) {
+    for (int i = 0; i < reduced(20000); ++i) {
         const quint64 bits = random();
         compareWritten(verdict, ofBits(bits)); // of every size, infinities and NaN among them
         compareWritten(verdict, static_cast<double>(bits % 2000000000) / 1e6);
         compareWritten(verdict, static_cast<double>(bits % 2000000) / 1000);
         compareWritten(verdict, std::ldexp(static_cast<double>(bits >> 11), -static_cast<int>(random() % 120)));
     }
-    QVERIFY(verdict.checks() > 1400000);
+    QVERIFY(verdict.checks() > reduced(1400000));
     QVERIFY2(verdict.isGood(), verdict.firstFailure());
 }
 
@@ -338,7 +340,7 @@ void NumbersTest::randomNumbersRead()
 {
     std::mt19937_64 random(7);
     Verdict verdict;
-    for (int i = 0; i < 180000; ++i) {
+    for (int i = 0; i < reduced(180000); ++i) {
         const quint64 bits = random();
         const double value = i % 2 == 0
             ? static_cast<double>(bits % 2000000000) / 1e6
@@ -348,7 +350,7 @@ void NumbersTest::randomNumbersRead()
                     QString::number(bits % 10000000000000) + QLatin1Char('.') + QString::number(random() % 1000000));
         compareRead(verdict, QString::number(ofBits(bits), 'g', 17));
     }
-    QVERIFY(verdict.checks() > 1000000);
+    QVERIFY(verdict.checks() > reduced(1000000));
     QVERIFY2(verdict.isGood(), verdict.firstFailure());
 }
 
@@ -357,7 +359,7 @@ void NumbersTest::longNumbersRead()
     // Sixteen to twenty digits: more than a real number holds, many of them halfway between two.
     std::mt19937_64 random(17);
     Verdict verdict;
-    for (int i = 0; i < 100000; ++i) {
+    for (int i = 0; i < reduced(100000); ++i) {
         QString text = QString::number(random() >> (random() % 12));
         if (i % 2 == 0)
             text = QString::number(((random() >> 10) | (quint64(1) << 53)) * 2 + 1); // a tie
@@ -379,7 +381,7 @@ void NumbersTest::randomTextsRead()
     const QLatin1String alphabet("0123456789.-+ e,0123456789.");
     std::mt19937_64 random(11);
     Verdict verdict;
-    for (int i = 0; i < 500000; ++i) {
+    for (int i = 0; i < reduced(500000); ++i) {
         QString text;
         for (quint64 length = random() % 9; length > 0; --length)
             text.append(alphabet[static_cast<int>(random() % 27)]);
@@ -489,7 +491,7 @@ void NumbersTest::randomTimesRead()
         return QStringLiteral("%1").arg(random() % below, width, 10, QLatin1Char('0'));
     };
     Verdict verdict;
-    for (int i = 0; i < 100000; ++i) {
+    for (int i = 0; i < reduced(100000); ++i) {
         QString text = QStringLiteral("%1-%2-%3T%4:%5:%6")
                            .arg(digits(i % 2 == 0 ? 10000 : 2100, 4), digits(14, 2), digits(33, 2), digits(26, 2),
                                 digits(62, 2), digits(62, 2));
