@@ -263,7 +263,13 @@ void checkJudgement()
     QVERIFY(!order.isValid());
     QCOMPARE(order.syntaxError(), block(nameError));
 
+    // The areas alone
+    order.setSensors(names(QStringLiteral("S")));
     order.setAOIs(XmlNameAllMultiType());
+    QVERIFY(!order.isValid());
+    QCOMPARE(order.syntaxError(), block(uninitialised));
+
+    order.setSensors(names(QString()));
     order.setResultGrid(grid(0));
     QVERIFY(!order.isValid());
     QCOMPARE(order.syntaxError(), block(nameError + uninitialised + gridError));
