@@ -21,3 +21,11 @@ function(arvxml_configure_target target)
         target_link_options(${target} PRIVATE -fsanitize=${ARVXML_SANITIZERS})
     endif()
 endfunction()
+
+# With ARVXML_COVERAGE, clang counts what is reached in this target. Targets that only use it are not counted.
+function(arvxml_count_coverage target)
+    if(ARVXML_COVERAGE)
+        target_compile_options(${target} PRIVATE -fprofile-instr-generate -fcoverage-mapping)
+        target_link_options(${target} PRIVATE -fprofile-instr-generate)
+    endif()
+endfunction()
