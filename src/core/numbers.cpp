@@ -245,25 +245,27 @@ QString generalText(double value, int digits)
     return text(value < 0, *decimal, decimals);
 }
 
-QString shortText(double value, NumberFormat format)
+} // namespace
+
+QString plainText(double value, NumberFormat format)
 {
     return format.format == 'f' ? fixedText(value, format.digits) : generalText(value, format.digits);
 }
 
 #else
 
-QString shortText(double, NumberFormat)
+} // namespace
+
+QString plainText(double, NumberFormat)
 {
     return {};
 }
 
 #endif
 
-} // namespace
-
 QString numberText(double value, NumberFormat format)
 {
-    const QString text = shortText(value, format);
+    const QString text = plainText(value, format);
     return text.isNull() ? QString::number(value, format.format, format.digits) : text;
 }
 

@@ -19,6 +19,8 @@ struct NumberFormat {
 
 /// As QString::number() writes it.
 QString numberText(double value, NumberFormat format);
+/// The same by the short way; null for a number or format that needs Qt's.
+QString plainText(double value, NumberFormat format);
 inline QString numberText(int value)
 {
     return QString::number(value);

@@ -17,6 +17,8 @@ bool takeDigits(const QString& text, int at, int count, int& number)
     return true;
 }
 
+} // namespace
+
 QDateTime plainDateTime(const QString& text)
 {
     const QLatin1String form("dddd-dd-ddTdd:dd:dd");
@@ -39,8 +41,6 @@ QDateTime plainDateTime(const QString& text)
     const QTime time(hour, minute, second);
     return date.isValid() && time.isValid() ? QDateTime(date, time) : QDateTime();
 }
-
-} // namespace
 
 QDateTime toDateTime(const QString& text)
 {

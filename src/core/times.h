@@ -8,5 +8,7 @@ namespace ArvXml {
 /// A time in ISO 8601, as QDateTime::fromString() reads it; invalid when \a text is none. The plain form, such
 /// as 2024-03-05T14:07:09, goes a short way.
 QDateTime toDateTime(const QString& text);
+/// The same by the short way; invalid for every other form.
+QDateTime plainDateTime(const QString& text);
 
 } // namespace ArvXml

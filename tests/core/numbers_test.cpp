@@ -126,6 +126,8 @@ private Q_SLOTS:
     void literals();
     void textsOfTheirOwn();
     void theShortWayIsTaken();
+    void theShortWayIsLeftInWriting();
+    void theShortWayIsLeftForTimes();
     void theShortWayIsLeft_data();
     void theShortWayIsLeft();
     void chosenTextsRead();
@@ -270,6 +272,43 @@ void NumbersTest::theShortWayIsTaken()
     const auto integer = [](const QString& text) { return plainInteger(text.data(), text.data() + text.size()); };
     for (const char* text : {"0", "7", "-7", "007", "123456789", "-12345678"})
         QVERIFY2(integer(QString::fromLatin1(text)).has_value(), text);
+
+    QCOMPARE(plainText(8.5, {'f', 6}), QStringLiteral("8.500000"));
+    QCOMPARE(plainText(-95.5, {'f', 15}), QStringLiteral("-95.500000000000000"));
+    QCOMPARE(plainText(4503599627370497.0, {'f', 0}), QStringLiteral("4503599627370497")); // no bit is a fraction
+    QCOMPARE(plainText(9007199254740991.0, {'f', 1}), QStringLiteral("9007199254740991.0"));
+    QCOMPARE(plainText(1, {'g', 6}), QStringLiteral("1"));
+    QCOMPARE(plainText(-12.5, {'g', 6}), QStringLiteral("-12.5"));
+    QCOMPARE(plainText(999999, {'g', 6}), QStringLiteral("999999"));
+
+    for (const char* text :
+         {"2024-03-05T14:07:09", "2024-02-29T00:00:00", "0001-01-01T00:00:00", "9999-12-31T23:59:59"})
+        QVERIFY2(plainDateTime(QString::fromLatin1(text)).isValid(), text);
+}
+
+void NumbersTest::theShortWayIsLeftInWriting()
+{
+    // Nothing below normal numbers or from 2^53 on, no more than fifteen digits, and no exponents.
+    for (const double value :
+         {9007199254740992.0, 1e300, Limits::denorm_min(), Limits::infinity(), Limits::quiet_NaN()})
+        QVERIFY(plainText(value, {'f', 6}).isNull());
+    QVERIFY(plainText(8.5, {'f', 16}).isNull());
+    for (const double value : {0.0, 0.5, 999999.5, 1000000.0, Limits::quiet_NaN()})
+        QVERIFY(plainText(value, {'g', 6}).isNull());
+    QVERIFY(plainText(8.5, {'g', 16}).isNull());
+}
+
+void NumbersTest::theShortWayIsLeftForTimes()
+{
+    const QString time = QStringLiteral("2024-03-05T14:07:09");
+    for (int i = 0; i < time.size(); ++i) {
+        QVERIFY(!plainDateTime(QString(time).replace(i, 1, QLatin1Char('/'))).isValid()); // comes before the digits
+        QVERIFY(!plainDateTime(QString(time).replace(i, 1, QLatin1Char(':'))).isValid()
+                || time[i] == QLatin1Char(':')); // comes behind them
+    }
+    for (const char* text : {"", "2024-03-05T14:07", "2024-03-05T14:07:09Z", "2024-13-05T14:07:09",
+                             "2023-02-29T00:00:00", "2024-03-05T24:00:00", "2024-03-05T14:60:00"})
+        QVERIFY2(!plainDateTime(QString::fromLatin1(text)).isValid(), text);
 }
 
 void NumbersTest::theShortWayIsLeft_data()
