@@ -166,10 +166,7 @@ Answer understand(const QByteArray& response)
                                      "  its parameters, so the name of the picture is not known. This is no failure.\n")
                           .arg(gridText(*gridResultOf(root)));
     } else if (error && !endsByRule) {
-        answer.text = QStringLiteral("The response cannot be read (line %1, column %2):\n%3")
-                          .arg(error.line)
-                          .arg(error.column)
-                          .arg(indented(error.text));
+        answer.text = QStringLiteral("The response cannot be read:\n") + indented(error.withPlace());
     } else if (!root.isValid()) {
         answer.text = QStringLiteral("The response is not acceptable:\n") + indented(Document::problems(root));
     } else if (endsByRule) {

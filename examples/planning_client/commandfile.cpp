@@ -46,7 +46,7 @@ Order orderFrom(const QByteArray& document)
         + root.getCalculationCmds().size();
     order.commandCount = static_cast<int>(inLists) + (root.getPropagationModelCmd() ? 1 : 0);
     if (error) {
-        order.problem = QStringLiteral("Line %1, column %2: %3").arg(error.line).arg(error.column).arg(error.text);
+        order.problem = error.withPlace();
         return order;
     }
     order.problem = Document::problems(root);

@@ -649,12 +649,12 @@ void ConversationTest::badCommandFilesAreNotSent_data()
         QTest::newRow(file) << QString::fromLatin1(file) << status << QString::fromLatin1(text);
     };
     row("bad/create-station-without-position.xml", 1,
-        "Line 10, column 14: in XmlStationType (line 10, column 14): Unexpected token \"EndElement\": Station.\n");
+        "in XmlStationType (line 10, column 14): Unexpected token \"EndElement\": Station.\n");
     row("bad/create-receiver-height-in-feet.xml", 1, "Illegal unit (must be \"m\").\n");
     row("bad/create-emitter-frequency-not-a-number.xml", 1, "Some value is not acceptable.\n");
     row("bad/delete-name-empty.xml", 1, "Object name too short (min. 1).\n");
     row("bad/model-p526-as-written.xml", 1,
-        "Line 11, column 20: in XmlPropModelP526Type (line 11, column 20): Unexpected token \"StartElement\": "
+        "in XmlPropModelP526Type (line 11, column 20): Unexpected token \"StartElement\": "
         "Polarisation.\n");
     row("bad/model-p533-sunspots-1000.xml", 1, "SmoothedSunSpotNumber out of bounds\n");
     row("good/response-fault.xml", 1, "Unexpected token \"StartElement\": Automatic.\n");
@@ -798,7 +798,7 @@ void ConversationTest::deliveredObjects_data()
     row("grid-results/interactive-cep.xml", 0, "Grid result: circular error probable\n");
     row("interactive-results/station-beyond-the-pole.xml", 2, "not acceptable:\n  +++ in XmlRespRoot Begin:\n");
     row("bad/response-interactive-station-without-position.xml", 2,
-        "cannot be read (line 11, column 16):\n  in XmlStationType (line 11, column 16): Unexpected token "
+        "cannot be read:\n  in XmlStationType (line 11, column 16): Unexpected token "
         "\"EndElement\": Station.\n");
     row("bad/response-interactive-station-with-power.xml", 2, "Unexpected element \"Power\".\n");
     row("bad/response-interactive-marked-automatic.xml", 2, "Type automatic but no content\n");
@@ -1231,7 +1231,7 @@ void ConversationTest::clientAgainstBadServices_data()
     QTest::newRow("hangs up") << QByteArray() << patience << QStringLiteral("No answer: ");
     QTest::newRow("hangs up half way") << QByteArray("<Response") << patience << QStringLiteral("No answer: ");
     QTest::newRow("sends rubbish") << framed("rubbish") << patience
-                                   << QStringLiteral("The response cannot be read (line 1, column 1):\n  Start tag "
+                                   << QStringLiteral("The response cannot be read:\n  at line 1, column 1: Start tag "
                                                      "expected.");
     QTest::newRow("sends an empty response")
         << framed("<Response type=\"automatic\" final=\"true\" timestamp=\"2024-03-05T14:07:12\"/>") << patience
