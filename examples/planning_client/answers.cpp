@@ -116,11 +116,26 @@ const XmlGridResultType* gridResultOf(const XmlRespRoot& root)
     return root.hasAutoResp() ? root.autoResp()->gridResult() : nullptr;
 }
 
-/// Whether reading ended where the protocol makes it end in every grid result: behind the parameters.
-/// What was read until there is good.
+/// Whether a grid result holds parameters, and acceptable ones.
+bool hasGoodParameters(const XmlGridResultType& result)
+{
+    int count = 0;
+    for (const IXmlElement* held : std::initializer_list<const IXmlElement*>{
+             result.findSites(), result.cep(), result.detectProb(), result.dfCov(), result.bestSensor()}) {
+        if (held && !held->isValid())
+            return false;
+        count += held ? 1 : 0;
+    }
+    return count > 0;
+}
+
+/// Whether reading ended where the protocol makes it end in every grid result: behind the parameters. Incomplete
+/// parameters end there, too, with the same words, so that they are looked at.
 bool endsAtGridParameters(const XmlRespRoot& root, const Document::ReadError& error)
 {
-    if (!gridResultOf(root) || !error.text.endsWith(QLatin1String("Unexpected token \"EndElement\": Parameter.")))
+    const XmlGridResultType* const result = gridResultOf(root);
+    if (!result || !hasGoodParameters(*result)
+        || !error.text.endsWith(QLatin1String("Unexpected token \"EndElement\": Parameter.")))
         return false;
     if (root.hasInteractResp())
         return root.type() == XmlRespRoot::RespInteractive;

@@ -30,6 +30,9 @@ namespace ArvXml {
 /// have status 'ack'", "If EstimatedTime given, no results allowed", "If ArvVersion set, no results
 /// allowed" and "Only one result allowed".
 ///
+/// A "GridResult" always ends the read with an error, see XmlGridResultType; what was read is kept. Reading replaces a
+/// result held.
+///
 /// A result held is removed by reset() only; message, version and time go away with an empty value.
 class ARVXML_EXPORT XmlAutoRespType : public XmlComposite {
 public:

@@ -39,8 +39,11 @@ public:
     ///
     /// A failure ends the whole read; ask `reader.hasError()` and `reader.errorString()`. The element
     /// raises it as "in CLASS (line L, column C): MESSAGE."; what is no XML at all, or holds an element
-    /// where a text should be, the reader raises itself in its own words. What was read until then is
+    /// where a text is read whole, the reader raises itself in its own words. What was read until then is
     /// kept. Values out of range are no failure here; see isValid().
+    ///
+    /// Reading does not reset the element, but where its class says so: what the document does not mention stays as
+    /// it was, but for the version.
     ///
     /// On another token than a start tag, elements with attributes, and others whose class says so, raise
     /// "Parse error (wrong position)"; the rest go on with the next token.
@@ -217,8 +220,8 @@ protected:
 /// The base of the elements whose content is one text out of a list.
 ///
 /// Value 0 means that none is chosen; it is never read, makes the element invalid, and is written as "UNDEFINED", as
-/// is every value outside the list. Texts are compared exactly: case and blanks count. Each piece of text is taken
-/// for itself (a comment cuts a text in two); an element without text keeps its value.
+/// is every value outside the list, which is valid all the same. Texts are compared exactly: case and blanks count.
+/// Each piece of text is taken for itself (a comment cuts a text in two); an element without text keeps its value.
 class ARVXML_EXPORT XmlEnumeration : public XmlElement {
 public:
     void processXml(QXmlStreamReader& reader, const QString& tagName) override;

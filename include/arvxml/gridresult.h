@@ -27,7 +27,7 @@ namespace ArvXml {
 /// Reading never succeeds. In a complete document it stops behind "Parameter": the parameters are read,
 /// but are told the tag of the wrapper ("CEP") as theirs, and so refuse the end tag of "Parameter"
 /// ("Unexpected token "EndElement": Parameter", in the class of the parameters). The type and the
-/// parameters read are kept; the file name is not reached.
+/// parameters read are kept, in place of those held of that type; the file name is not reached.
 ///
 /// Valid with a type ("Type not defined"), the parameters of that type and no others ("Type is 'CEP' but
 /// no CEP parameters or other parameters found"), and a file name ("Screenshot path not set"). A type
@@ -108,9 +108,9 @@ private:
 /// was; which number is the greater is not judged.
 ///
 /// White space between the tags is refused on reading ("Unexpected characters"): an indented document
-/// cannot be read here. Version and unit must not be empty ("Missing mandatory attributes"); an
-/// attribute that is absent leaves what the element holds. Another version than "1.0" is refused while
-/// reading. reset() touches the two numbers only.
+/// cannot be read here. The unit must not be empty ("Missing mandatory attributes"; an empty
+/// version is refused as unsupported); an attribute that is absent leaves what the element holds. Another version than
+/// "1.0" is refused while reading. reset() touches the two numbers only.
 class ARVXML_EXPORT XmlGridValuesType : public XmlVersionedComposite {
 public:
     XmlGridValuesType();

@@ -15,8 +15,8 @@ namespace ArvXml {
 /// inner element is "Station", "Emitter", "Receiver" or "DF".
 ///
 /// Reading always ends with an error at the element's own end tag ("Unexpected token "EndElement":
-/// Station"); the object read until then is kept. Setters fill the slot of their kind and never clear
-/// another; all held are written. How many are held is not judged: none is valid.
+/// Station"); the object read until then is kept, in place of one of its kind held before. Setters fill the slot of
+/// their kind and never clear another; all held are written. How many are held is not judged: none is valid.
 class ARVXML_EXPORT XmlResultObjectType : public XmlComposite {
 public:
     XmlResultObjectType();
@@ -56,7 +56,7 @@ private:
 /// "InterlinkResult" and "Station" ("Illegal number of elements").
 ///
 /// A "Station" always ends the read with an error, see XmlResultObjectType, and a "GridResult" does, see
-/// XmlGridResultType; what was read is kept.
+/// XmlGridResultType; what was read is kept, in place of what was held of its kind.
 class ARVXML_EXPORT XmlInteractRespType : public XmlComposite {
 public:
     XmlInteractRespType();

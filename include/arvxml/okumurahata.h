@@ -39,8 +39,8 @@ public:
 
     XmlPropModelHataType();
 
-    /// The effective earth radius factor, tag "K-factor" when read ("Kfactor out of bounds"): 0.1 to 5.0,
-    /// default 1.3333.
+    /// The effective earth radius factor, tag "K-factor" when read ("Kfactor out of bounds"; raised on
+    /// reading: "Illegal Kfactor value (must be numeric)"): 0.1 to 5.0, default 1.3333.
     double Kfactor() const { return realValue(KFactorRow); }
     void setKfactor(double value) { setValue(KFactorRow, value); }
     bool hasKfactor() const { return isPresent(KFactorRow); }

@@ -26,7 +26,8 @@ namespace ArvXml {
 /// automatic but interactive content", and the like). A type beyond the known ones is not judged against
 /// the content; an envelope must be valid in any case.
 ///
-/// At most one answer is read; the envelope may be repeated, and the last one counts.
+/// At most one answer is read; the envelope may be repeated, and the last one counts. Reading replaces what is held of
+/// both; what the document does not mention stays.
 class ARVXML_EXPORT XmlRespRoot : public XmlComposite {
 public:
     /// The kinds of responses, with their texts, read exactly so.

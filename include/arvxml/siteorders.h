@@ -24,7 +24,9 @@ namespace ArvXml {
 /// \endcode
 /// Random emitters need a number from 0 to 500 ("RandomEmitters/Number out of bounds") and a
 /// distribution ("RandomEmitters distribution not set"); without a distribution they are not written, and
-/// one beyond the known ones is written as "UNDEFINED", which no reader accepts.
+/// one beyond the known ones is written as "UNDEFINED", which no reader accepts. With a number below 0 they are read
+/// and not written. Inside "RandomEmitters" the children that follow it are read, too.
+///
 /// While reading, a number that is no integer is "Illegal value for "Number" (must be numeric)", an
 /// unknown distribution "Illegal value for "Distribution"".
 class ARVXML_EXPORT XmlFindSitesType : public XmlComposite {

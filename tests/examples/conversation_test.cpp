@@ -1236,6 +1236,13 @@ void ConversationTest::clientAgainstBadServices_data()
     QTest::newRow("sends an empty response")
         << framed("<Response type=\"automatic\" final=\"true\" timestamp=\"2024-03-05T14:07:12\"/>") << patience
         << QStringLiteral("Type automatic but no content");
+    QTest::newRow("sends a grid result of incomplete parameters")
+        << framed(
+               "<Response type=\"automatic\" final=\"true\" timestamp=\"2024-03-05T14:07:09\"><Automatic "
+               "status=\"ack\">"
+               "<CommandReference>1</CommandReference><GridResult type=\"CEP\"><CEP><Parameter><UseDFs><All/></UseDFs>"
+               "</Parameter></CEP></GridResult></Automatic></Response>")
+        << patience << QStringLiteral("The response cannot be read:\n  in XmlCepType (line 1, column 208): ");
     QTest::newRow("answers another order") << framed(sample("good/response-version.xml")) << patience
                                            << QStringLiteral("The service answered another order: ARV240305140709042");
     QTest::newRow("sends too much") << framed(QByteArray(16 * 1024 * 1024 + 1, 'x')) << patience
