@@ -733,8 +733,11 @@ private Q_SLOTS:
     // What is read is given back, and nothing of the document stays.
     void memoryIsGivenBack()
     {
-        if (!isMemoryTold())
-            QSKIP("This machine does not tell how much memory is allocated, or a checker stands in between.");
+        if (!isMemoryTold()) { // not by QSKIP, which clang++ does not take for standard C++
+            QTest::qSkip("This machine does not tell how much memory is allocated, or a checker stands in between.",
+                         __FILE__, __LINE__);
+            return;
+        }
         for (const Growth& growth : growths) {
             const QByteArray document = growth.document(2000);
             // Tables are made when first used.
