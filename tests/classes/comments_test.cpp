@@ -105,8 +105,8 @@ QString expanded(QString sample)
     static const QRegularExpression elided(QStringLiteral(R"(<(\w+)[^<>]*>(\.\.\.)</\1>)"));
     for (auto match = elided.match(sample); match.hasMatch(); match = elided.match(sample)) {
         const QString other = expanded(sampleOf(classesByTag().value(match.captured(1))));
-        const int begin = other.indexOf(QLatin1Char('>')) + 1;
-        const int end = other.lastIndexOf(QLatin1String("</"));
+        const auto begin = other.indexOf(QLatin1Char('>')) + 1;
+        const auto end = other.lastIndexOf(QLatin1String("</"));
         if (end < begin)
             qFatal("nothing stands for the content of %s", qPrintable(match.captured(1)));
         sample.replace(match.capturedStart(2), match.capturedLength(2), other.mid(begin, end - begin));
