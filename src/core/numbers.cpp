@@ -197,8 +197,8 @@ void writeDigits(QChar* end, quint64 number, int count)
     }
 }
 
-/// The text is shared with the next number that the thread writes, if it is gone by then: as a rule it is, and
-/// the memory serves again.
+/// The memory of the text serves for the next number of the thread, unless somebody still holds the text by then:
+/// that number gets memory of its own.
 QString text(bool isNegative, Decimal decimal, int decimals)
 {
     thread_local QString text;
