@@ -149,6 +149,20 @@ bool isLeftByReset(const Samples::ElementClass& elementClass)
                     "XmlResInfo_FindSites_Type", "XmlResInfo_BestSensor_Type", "XmlMapType", "XmlCmdCalc"});
 }
 
+bool mayBeInvalidInSilence(const ArvXml::IXmlElement& element, const QByteArray& written)
+{
+    using namespace ArvXml;
+    if (written.contains(">nan<"))
+        return true; // a number that is none breaks no limit
+    if (const auto* result = dynamic_cast<const XmlResInfo_BestSensor_Type*>(&element))
+        return result->hasComment() && !result->comment()->isValid(); // the comment is not reported
+    const auto* response = dynamic_cast<const XmlAutoRespType*>(&element);
+    if (const auto* root = dynamic_cast<const XmlRespRoot*>(&element))
+        response = root->autoResp();
+    return response && !response->hasErrorMessage() && !response->hasArvVersion() && !response->hasEstimatedTime()
+        && !response->hasGridResult() && !response->hasInterlinkResult(); // an item that is empty is none
+}
+
 bool mustBeRefused(const ArvXml::IXmlElement& element, const QString& tag, const QByteArray& written)
 {
     const int content = int(written.indexOf('>') + 1); // the element's own tag may be any

@@ -20,6 +20,9 @@ bool mayEndInside(const Samples::ElementClass& elementClass, const QString& tag)
 /// Whether reset() leaves something, so that the element is not like a new one.
 bool isLeftByReset(const Samples::ElementClass& elementClass);
 
+/// Whether \a element, which was read without an error and now writes \a written, may be invalid without a problem.
+bool mayBeInvalidInSilence(const ArvXml::IXmlElement& element, const QByteArray& written);
+
 /// Whether the library's reader must refuse \a written, which the library wrote of \a element under \a tag.
 bool mustBeRefused(const ArvXml::IXmlElement& element, const QString& tag, const QByteArray& written);
 

@@ -92,8 +92,11 @@ void Exercise::run()
     judgeTwice(*element);
     m_shown = shown(*element);
     copyAndAssign(*element);
-    if (m_reading.error.isEmpty())
+    if (m_reading.error.isEmpty()) {
+        check(m_shown.valid || !m_shown.problems.isEmpty() || mayBeInvalidInSilence(*element, m_shown.written),
+              "what was read is not acceptable, and nothing says why", m_shown.written);
         readBack(*element);
+    }
     resetAndReadAgain(*element);
 }
 
