@@ -4,7 +4,6 @@ namespace ArvXml {
 
 EnumerationTexts::EnumerationTexts(std::initializer_list<const char*> texts)
 {
-    m_texts.reserve(texts.size() + 1);
     m_texts.push_back(QStringLiteral("UNDEFINED"));
     for (const char* text : texts)
         m_texts.push_back(QString::fromLatin1(text));

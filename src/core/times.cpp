@@ -1,20 +1,25 @@
 #include "core/times.h"
 
+#include <algorithm>
+
 namespace ArvXml {
 
 namespace {
 
-/// Reads the \a count digits at \a at into \a number. Returns whether they are digits.
-bool takeDigits(const QString& text, int at, int count, int& number)
+/// Whether \a character is what the form asks for: a digit for each 'd', anything else itself.
+bool fits(QChar character, char form)
 {
-    number = 0;
-    for (int i = at; i < at + count; ++i) {
-        const int digit = text[i].unicode() - '0';
-        if (digit < 0 || digit > 9)
-            return false;
-        number = 10 * number + digit;
-    }
-    return true;
+    return form == 'd' ? character >= QLatin1Char('0') && character <= QLatin1Char('9')
+                       : character == QLatin1Char(form);
+}
+
+/// The number that the \a count digits from \a at on make.
+int numberOf(const QString& text, int at, int count)
+{
+    int number = 0;
+    for (int i = at; i < at + count; ++i)
+        number = 10 * number + (text[i].unicode() - '0');
+    return number;
 }
 
 } // namespace
@@ -22,23 +27,10 @@ bool takeDigits(const QString& text, int at, int count, int& number)
 QDateTime plainDateTime(const QString& text)
 {
     const QLatin1String form("dddd-dd-ddTdd:dd:dd");
-    if (text.size() != form.size())
+    if (!std::equal(text.cbegin(), text.cend(), form.begin(), form.end(), fits))
         return {};
-    for (int i = 0; i < form.size(); ++i) {
-        if (form[i] != QLatin1Char('d') && text[i] != form[i])
-            return {};
-    }
-    int year = 0;
-    int month = 0;
-    int day = 0;
-    int hour = 0;
-    int minute = 0;
-    int second = 0;
-    if (!takeDigits(text, 0, 4, year) || !takeDigits(text, 5, 2, month) || !takeDigits(text, 8, 2, day)
-        || !takeDigits(text, 11, 2, hour) || !takeDigits(text, 14, 2, minute) || !takeDigits(text, 17, 2, second))
-        return {};
-    const QDate date(year, month, day);
-    const QTime time(hour, minute, second);
+    const QDate date(numberOf(text, 0, 4), numberOf(text, 5, 2), numberOf(text, 8, 2));
+    const QTime time(numberOf(text, 11, 2), numberOf(text, 14, 2), numberOf(text, 17, 2));
     return date.isValid() && time.isValid() ? QDateTime(date, time) : QDateTime();
 }
 
