@@ -6,12 +6,12 @@ ElementForm& ElementForm::sequence(std::initializer_list<Step> steps)
 {
     const Marks all = (Marks(1) << steps.size()) - 1;
     Marks mark = 1;
-    Marks needed = 0;
+    Marks needed = all;
     for (const Step& step : steps) {
         const Marks itselfAndThoseAfter = all & ~(mark - 1);
         m_rows.emplace_back(step.tag, mark, itselfAndThoseAfter, step.content);
-        if (step.required)
-            needed |= mark;
+        if (!step.required)
+            needed &= ~mark;
         mark <<= 1;
     }
     return completeWith(needed);

@@ -17,9 +17,9 @@ constexpr std::array<quint64, 16> integerPowers = [] {
     return powers;
 }();
 
-/// These powers of ten are exact as real numbers.
-constexpr std::array<double, 23> exactPowers = [] {
-    std::array<double, 23> powers{};
+/// These powers of ten are exact as real numbers, as four more would be: no plain number has more decimals.
+constexpr std::array<double, 19> exactPowers = [] {
+    std::array<double, 19> powers{};
     powers[0] = 1;
     for (std::size_t i = 1; i < powers.size(); ++i)
         powers[i] = 10 * powers[i - 1];
@@ -59,11 +59,11 @@ const QChar* takeDigits(const QChar* at, const QChar* end, quint64& number)
     return at;
 }
 
-/// \a digits divided by a power of ten, rounded to nearest, half to even.
+/// \a digits divided by a power of ten, one of exactPowers, rounded to nearest, half to even.
 std::optional<double> quotient(quint64 digits, std::size_t decimals)
 {
     // Both exact as real numbers: the division rounds once, and so correctly.
-    if (digits <= exactIntegers && decimals < exactPowers.size())
+    if (digits <= exactIntegers)
         return static_cast<double>(digits) / exactPowers[decimals];
 #ifdef __SIZEOF_INT128__
     // Else divide integers, so that the quotient has some bits more than a real number, and whether anything
@@ -111,7 +111,7 @@ std::optional<double> plainReal(const QChar* begin, const QChar* end)
         decimals = static_cast<std::size_t>(end - at);
         at = takeDigits(at, end, digits);
     }
-    constexpr int safeLength = 20; // nineteen digits and a point: that many digits cannot overflow
+    constexpr int safeLength = 20; // nineteen digits and a point: that many digits cannot overflow, 18 of them decimals
     if (at != end || end - first > safeLength - (decimals > 0 ? 0 : 1))
         return {};
     const std::optional<double> magnitude = quotient(digits, decimals);

@@ -62,7 +62,7 @@ void XmlParameterSet::readParameter(int parameter, ElementReader& in)
 
     setValue(parameter, ok ? value : row.afterBadText);
     if (!ok) {
-        at(row.clearedByBadText < 0 ? parameter : row.clearedByBadText).isPresent = false;
+        at(row.clearedByBadText.value_or(parameter)).isPresent = false;
         in.fail(row.readError);
     }
 }
@@ -78,7 +78,7 @@ QString XmlParameterSet::writtenText(int parameter) const
     case ParameterRow::Choice:
         break;
     }
-    const int value = integerValue(row.textChosenBy < 0 ? parameter : row.textChosenBy);
+    const int value = integerValue(row.textChosenBy.value_or(parameter));
     const bool hasText = value >= 0 && value < static_cast<int>(row.texts.size());
     return row.texts[static_cast<std::size_t>(hasText ? value : static_cast<int>(row.byDefault))];
 }

@@ -4,6 +4,7 @@
 
 #include <initializer_list>
 #include <limits>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -21,13 +22,13 @@ struct ParameterRow {
     int decimals = 0;          ///< how many are written
     double min = -std::numeric_limits<double>::infinity();
     double max = std::numeric_limits<double>::infinity();
-    QString rangeError;           ///< the problem of a value that is out of range (NaN never is) or undefined
-    QString readError;            ///< raised for a text that cannot be read
-    std::vector<QString> texts;   ///< of a choice, by value
-    bool zeroIsUndefined = false; ///< whether value 0 of a choice is not read, and a problem
-    bool isRepeatable = false;    ///< whether it may come again while none after it has been read
-    int clearedByBadText = -1;    ///< the parameter whose flag a bad text clears; -1 for its own
-    int textChosenBy = -1;        ///< the parameter whose value chooses the text written; -1 for its own
+    QString rangeError;                  ///< the problem of a value that is out of range (NaN never is) or undefined
+    QString readError;                   ///< raised for a text that cannot be read
+    std::vector<QString> texts;          ///< of a choice, by value
+    bool zeroIsUndefined = false;        ///< whether value 0 of a choice is not read, and a problem
+    bool isRepeatable = false;           ///< whether it may come again while none after it has been read
+    std::optional<int> clearedByBadText; ///< the parameter whose flag a bad text clears, if not its own
+    std::optional<int> textChosenBy;     ///< the parameter whose value chooses the text written, if not its own
 };
 
 /// The texts of a choice, that of value 0 first.
