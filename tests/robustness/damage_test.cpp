@@ -499,6 +499,13 @@ public:
     }
 
     const Node& node(int index) const { return nodes[std::size_t(index)]; }
+    /// The element that follows inside the same one, below zero for none.
+    int nextSibling(int index) const
+    {
+        const std::vector<int>& siblings = node(node(index).parent).children;
+        const auto next = std::find(siblings.cbegin(), siblings.cend(), index) + 1;
+        return next == siblings.cend() ? -1 : *next;
+    }
     /// The element, itself or the nearest around it, that has a class of its own.
     const Node& owner(int index) const
     {
@@ -814,8 +821,10 @@ private:
     static void addDocuments()
     {
         QTest::addColumn<QString>("path");
+        QTest::addColumn<int>("row");
         int count = 0;
-        const auto addFolder = [&count](const QString& folder) {
+        int row = 0;
+        const auto addFolder = [&count, &row](const QString& folder) {
             const QDir dir(folder);
             const QStringList names = dir.entryList({QStringLiteral("*.xml")});
             for (const QString& name : names) {
@@ -824,11 +833,11 @@ private:
                 if (name == QLatin1String("plan.xml")) {
                     for (const char* tag : {"CabLenMap", "Gains"}) {
                         QTest::addRow("the command with %s", tag)
-                            << dir.filePath(name) + QLatin1Char('#') + QLatin1String(tag);
+                            << dir.filePath(name) + QLatin1Char('#') + QLatin1String(tag) << row++;
                     }
                     continue;
                 }
-                QTest::addRow("%s/%s", qPrintable(dir.dirName()), qPrintable(name)) << dir.filePath(name);
+                QTest::addRow("%s/%s", qPrintable(dir.dirName()), qPrintable(name)) << dir.filePath(name) << row++;
                 ++count;
             }
         };
@@ -897,15 +906,14 @@ private Q_SLOTS:
     void cut()
     {
         QFETCH(QString, path);
+        QFETCH(int, row);
         const Sample sample(contentOf(path));
         // The error of the whole document comes as soon as all of it stands there.
         const int errorEnd =
             sample.error.text.isEmpty() ? -1 : int(sample.text.left(sample.error.place).toUtf8().size());
         const int rootEnd = int(sample.text.left(sample.tree.node(0).end).toUtf8().size());
 
-        for (int length = 0; length < sample.document.size(); ++length) {
-            if (!TestEffort::isNextTaken())
-                continue;
+        for (const int length : TestEffort::taken(int(sample.document.size()), row)) {
             ++theCases;
             const QByteArray document = sample.document.left(length);
             const std::unique_ptr<IXmlElement> root = newRoot(sample.rootClass);
@@ -943,10 +951,10 @@ private Q_SLOTS:
     void removed()
     {
         QFETCH(QString, path);
+        QFETCH(int, row);
         const Sample sample(contentOf(path));
-        for (int index = 1; index < int(sample.tree.nodes.size()); ++index) {
-            if (!TestEffort::isNextTaken())
-                continue;
+        for (const int child : TestEffort::taken(int(sample.tree.nodes.size()) - 1, row)) {
+            const int index = child + 1;
             const Node& node = sample.tree.node(index);
             QString damaged = sample.text;
             damaged.remove(node.begin, node.end - node.begin);
@@ -964,10 +972,10 @@ private Q_SLOTS:
     void repeated()
     {
         QFETCH(QString, path);
+        QFETCH(int, row);
         const Sample sample(contentOf(path));
-        for (int index = 1; index < int(sample.tree.nodes.size()); ++index) {
-            if (!TestEffort::isNextTaken())
-                continue;
+        for (const int child : TestEffort::taken(int(sample.tree.nodes.size()) - 1, row)) {
+            const int index = child + 1;
             const Node& node = sample.tree.node(index);
             QString damaged = sample.text;
             damaged.insert(node.end, sample.text.mid(node.begin, node.end - node.begin));
@@ -987,16 +995,17 @@ private Q_SLOTS:
     void swapped()
     {
         QFETCH(QString, path);
+        QFETCH(int, row);
         const Sample sample(contentOf(path));
+        std::vector<int> swappable; // the last child has no sibling to be swapped with
         for (int index = 1; index < int(sample.tree.nodes.size()); ++index) {
-            if (!TestEffort::isNextTaken())
-                continue;
+            if (sample.tree.nextSibling(index) >= 0)
+                swappable.push_back(index);
+        }
+        for (const int number : TestEffort::taken(int(swappable.size()), row)) {
+            const int index = swappable[std::size_t(number)];
             const Node& node = sample.tree.node(index);
-            const std::vector<int>& siblings = sample.tree.node(node.parent).children;
-            const auto next = std::find(siblings.cbegin(), siblings.cend(), index) + 1;
-            if (next == siblings.cend())
-                continue; // the last one has none to be swapped with
-            const Node& other = sample.tree.node(*next);
+            const Node& other = sample.tree.node(sample.tree.nextSibling(index));
             const QString damaged = sample.text.left(node.begin) + sample.text.mid(other.begin, other.end - other.begin)
                 + sample.text.mid(node.end, other.begin - node.end) + sample.text.mid(node.begin, node.end - node.begin)
                 + sample.text.mid(other.end);
@@ -1008,11 +1017,10 @@ private Q_SLOTS:
     void renamed()
     {
         QFETCH(QString, path);
+        QFETCH(int, row);
         const Sample sample(contentOf(path));
         const QString other = QStringLiteral("Other");
-        for (int index = 0; index < int(sample.tree.nodes.size()); ++index) {
-            if (!TestEffort::isNextTaken())
-                continue;
+        for (const int index : TestEffort::taken(int(sample.tree.nodes.size()), row)) {
             const Node& node = sample.tree.node(index);
             QString damaged = sample.text;
             if (!node.isEmptyTag())
@@ -1040,52 +1048,55 @@ private Q_SLOTS:
     void attributes()
     {
         QFETCH(QString, path);
+        QFETCH(int, row);
         const Sample sample(contentOf(path));
+        std::vector<std::pair<int, const Attribute*>> all;
         for (int index = 0; index < int(sample.tree.nodes.size()); ++index) {
+            for (const Attribute& attribute : sample.tree.node(index).attributes)
+                all.emplace_back(index, &attribute);
+        }
+        for (const int number : TestEffort::taken(int(all.size()), row)) {
+            const int index = all[std::size_t(number)].first;
+            const Attribute& attribute = *all[std::size_t(number)].second;
             const Node& node = sample.tree.node(index);
-            for (const Attribute& attribute : node.attributes) {
-                if (!TestEffort::isNextTaken())
-                    continue;
-                const int length = attribute.end - attribute.begin;
-                const QString what = pathOf(sample, index) + QLatin1Char('@') + attribute.name;
-                const AttributeRow* needed = nullptr;
-                for (const AttributeRow& row : attributeRows) {
-                    if (node.readBy == QLatin1String(row.name) && attribute.name == QLatin1String(row.attribute))
-                        needed = &row;
-                }
-                const auto check = [&](const QString& damaged, const char* message, const QString& how) {
-                    const Error error = readDamaged(sample, damaged, what + how);
-                    if (sample.endsBefore(node.begin + 1))
-                        compare(error, sample.error, what + how);
-                    else if (QLatin1String(message).isEmpty())
-                        compare(error, sample.errorIn(damaged, node.startEnd), what + how);
-                    else
-                        compare(error,
-                                protocolError(damaged, node.startEnd + int(damaged.size() - sample.text.size()),
-                                              node.readBy, QString::fromLatin1(message)),
-                                what + how);
-                };
-
-                QString damaged = sample.text;
-                damaged.remove(attribute.begin, length);
-                check(damaged, needed ? needed->missing : "", QStringLiteral(" removed"));
-                damaged = sample.text;
-                damaged.remove(attribute.end - 1 - attribute.value.size(), attribute.value.size());
-                check(damaged, needed ? needed->empty : "", QStringLiteral(" emptied"));
-
-                damaged = sample.text;
-                damaged.insert(attribute.end, sample.text.mid(attribute.begin, length));
-                const Error error = readDamaged(sample, damaged, what + QLatin1String(" doubled"));
+            const int length = attribute.end - attribute.begin;
+            const QString what = pathOf(sample, index) + QLatin1Char('@') + attribute.name;
+            const AttributeRow* needed = nullptr;
+            for (const AttributeRow& candidate : attributeRows) {
+                if (node.readBy == QLatin1String(candidate.name)
+                    && attribute.name == QLatin1String(candidate.attribute))
+                    needed = &candidate;
+            }
+            const auto check = [&](const QString& damaged, const char* message, const QString& how) {
+                const Error error = readDamaged(sample, damaged, what + how);
                 if (sample.endsBefore(node.begin + 1))
-                    compare(error, sample.error, what + QLatin1String(" doubled"));
+                    compare(error, sample.error, what + how);
+                else if (QLatin1String(message).isEmpty())
+                    compare(error, sample.errorIn(damaged, node.startEnd), what + how);
                 else
                     compare(error,
-                            {QStringLiteral("Attribute '%1' redefined.").arg(attribute.name),
-                             node.startEnd + length,
-                             {},
-                             {}},
-                            what + QLatin1String(" doubled"));
-            }
+                            protocolError(damaged, node.startEnd + int(damaged.size() - sample.text.size()),
+                                          node.readBy, QString::fromLatin1(message)),
+                            what + how);
+            };
+
+            QString damaged = sample.text;
+            damaged.remove(attribute.begin, length);
+            check(damaged, needed ? needed->missing : "", QStringLiteral(" removed"));
+            damaged = sample.text;
+            damaged.remove(attribute.end - 1 - attribute.value.size(), attribute.value.size());
+            check(damaged, needed ? needed->empty : "", QStringLiteral(" emptied"));
+
+            damaged = sample.text;
+            damaged.insert(attribute.end, sample.text.mid(attribute.begin, length));
+            const Error error = readDamaged(sample, damaged, what + QLatin1String(" doubled"));
+            if (sample.endsBefore(node.begin + 1))
+                compare(error, sample.error, what + QLatin1String(" doubled"));
+            else
+                compare(
+                    error,
+                    {QStringLiteral("Attribute '%1' redefined.").arg(attribute.name), node.startEnd + length, {}, {}},
+                    what + QLatin1String(" doubled"));
         }
     }
 
@@ -1093,6 +1104,7 @@ private Q_SLOTS:
     void texts()
     {
         QFETCH(QString, path);
+        QFETCH(int, row);
         const Sample sample(contentOf(path));
         struct Rubbish {
             const char* name;
@@ -1115,15 +1127,18 @@ private Q_SLOTS:
             {"a control character", QStringLiteral("a&#1;b"), false, false, -1},
             {"NUL", QStringLiteral("&#0;"), false, false, -1},
         };
+        std::vector<int> all; // the elements that hold a text
         for (int index = 0; index < int(sample.tree.nodes.size()); ++index) {
             const Node& node = sample.tree.node(index);
-            if (!node.children.empty() || node.isEmptyTag())
-                continue;
-            const TextRule rule = textRule(sample.tree, index);
-
-            for (const Rubbish& piece : rubbish) {
-                if (!TestEffort::isNextTaken())
-                    continue;
+            if (node.children.empty() && !node.isEmptyTag())
+                all.push_back(index);
+        }
+        int first = row; // another text for each kind of rubbish
+        for (const Rubbish& piece : rubbish) {
+            for (const int number : TestEffort::taken(int(all.size()), first++)) {
+                const int index = all[std::size_t(number)];
+                const Node& node = sample.tree.node(index);
+                const TextRule rule = textRule(sample.tree, index);
                 QString damaged = sample.text;
                 damaged.replace(node.startEnd, node.endBegin - node.startEnd, piece.text);
                 const QString what = pathOf(sample, index) + QLatin1String(" has ") + QLatin1String(piece.name);
