@@ -324,40 +324,75 @@ const AttributeRow attributeRows[] = {
     {"XmlGridValuesType", "version", "", "Version not supported: "}, // here an empty version counts
 };
 
-/// How often a child may come: "?" at most once, "*" any number of times, "+" at least once (a vertex three times). A
-/// child that is not named comes exactly once, but every parameter of a model may be missing.
-const ChildrenRow occurrenceRows[] = {
-    {"XmlDBMListType", "dBm+"},
-    {"XmlDecibelListType", "Decibel+"},
-    {"XmlDegreesListType", "Degrees+"},
-    {"XmlFreqListType", "Frequency+"},
-    {"XmlDeviceListType", "Device+"},
-    {"XmlMapListType", "Map+"},
-    {"XmlNameAllMultiType", "Name+"},
-    {"XmlAreaPolyType", "Vertex+"},
-    {"XmlAoiType", "RxThreshold?"},
-    {"XmlDeploymentAreaType", "SignalPath?"},
-    {"XmlSignalPathType", "AntHgtMap? CabLenMap?"},
-    {"XmlStationType", "SignalPath? RxParameter? DFprecision? StationInterlink?"},
-    {"XmlReceiverType", "StationInterlink?"},
-    {"XmlDfType", "StationInterlink?"},
-    {"XmlPropModelType",
-     "SelectModel? PropertiesFreespace? PropertiesOLOS? PropertiesITM? PropertiesP452? PropertiesP1546? "
-     "PropertiesP526? PropertiesP533? PropertiesOkumura?"},
-    {"XmlPropModelFSType", "K-factor*"}, // the last one counts
-    {"XmlPropModelOLOSType", "K-factor* MaxRange_km?"},
-    {"XmlFindSitesType", "UseKnownEmitters? RandomEmitters? ResultGrid?"},
-    {"XmlCepType", "Probability? ResultGrid?"},
-    {"XmlDetectProbType", "ResultGrid?"},
-    {"XmlDfCovType", "ResultGrid?"},
-    {"XmlBestSensorType", "ResultGrid? Comment?"},
-    {"XmlCmdRoot", "ORDER_DEF? Administrative* Create* Delete* PropagationModel? Calculate*"},
-    {"XmlCmdAdmin", "QueryVersion+ Reference*"},
-    {"XmlRespRoot", "ORDER_DEF* Automatic? Interactive?"},
-    {"XmlInterlinkResultType", "ScreenshotFilename?"},
+/// What an element must hold to be read to its end: a regular expression for the tags in their order, each with a blank
+/// behind it. A child without a class of its own shows what it holds in brackets. A class without a row holds no
+/// elements, but every parameter of a model may come once, in the order of textRows.
+struct ContentRow {
+    const char* owner;
+    const char* content;
+};
+const ContentRow contentRows[] = {
+    {"XmlDBMListType", R"((dBm )+)"},
+    {"XmlDecibelListType", R"((Decibel )+)"},
+    {"XmlDegreesListType", R"((Degrees )+)"},
+    {"XmlFreqListType", R"((Frequency )+)"},
+    {"XmlFreqThrPairType", R"(Frequency RxThreshold )"},
+    {"XmlFreqThrListType", R"((Pair )+)"},
+    {"XmlDeviceListType", R"((Device )+)"},
+    {"XmlMapListType", R"((Map )+)"},
+    {"XmlMapType", R"(Key Value )"},
+    {"XmlNameAllType", R"((All\[\] |Name ))"},
+    {"XmlNameAllMultiType", R"((All\[\] |(Name )+))"},
+    {"XmlCoordinateType", R"(Longitude Latitude )"},
+    {"XmlNumCoordType", R"(Longitude Latitude )"},
+    {"XmlAreaRectType", R"(UpperLeft LowerRight )"},
+    {"XmlAreaPolyType", R"((Vertex ){3,})"},
+    {"XmlOrderDef", R"(ORDER_ID ORDER_SENDER )"},
+    {"XmlDeploymentAreaType",
+     R"((SignalPath )?Name (AreaRect |AreaPolygon )AntennaHeight RxThreshold Frequency TxPower )"},
+    {"XmlAoiType", R"(Name (AreaRect |AreaPolygon )TxParameter (RxThreshold )?)"},
+    // The factors come last, though they are written second.
+    {"XmlDeviceType",
+     R"(DeviceCategory Name Frequencies (Noises ((Gains |Degrees )DBM KFactors )?|KFactors |Attenuations ))"},
+    {"XmlSignalPathType", R"(Name SINAD Device (AntHgtMap )?(CabLenMap )?)"},
+    {"XmlTxParamType", R"(Frequency TxPower AntennaHeight Bandwidth )"},
+    {"XmlRxParamType", R"(AntennaHeight RxThreshold )"},
+    {"XmlStationInterlinkType", R"(Frequency TxPower RxThreshold AntennaHeight )"},
+    {"XmlStationType", R"(Name (SignalPath )?Position (RxParameter )?(DFprecision )?(StationInterlink )?)"},
+    {"XmlReceiverType", R"(Name Position RxParameter (StationInterlink )?)"},
+    {"XmlEmitterType", R"(Name Position TxParameter )"},
+    {"XmlDfType", R"(Name Position RxParameter DFprecision (StationInterlink )?)"},
+    {"XmlPropModelType", R"((SelectModel )?(Properties\w+ )?Reference )"},
+    {"XmlPropModelFSType", R"((K-factor )*)"}, // the last one counts
+    {"XmlPropModelOLOSType", R"((K-factor )*(MaxRange_km )?)"},
+    {"XmlFindSitesType",
+     R"((UseKnownEmitters )?(RandomEmitters\[Number Distribution \] )?DeploymentAreas (ResultGrid )?)"},
+    {"XmlCepType", R"(UseDFs AOIs (Probability )?(ResultGrid )?)"},
+    {"XmlDetectProbType", R"(UseRxDFs AOIs (ResultGrid )?)"},
+    {"XmlDfCovType", R"(UseDFs AOIs (ResultGrid )?)"},
+    {"XmlBestSensorType", R"(UseRxDFs AOIs (ResultGrid )?(Comment )?)"},
+    {"XmlInterlinkPlanningType", R"(FirstName SecondName )"},
+    {"XmlCmdRoot", R"((ORDER_DEF )?(Administrative )*(Create )*(Delete )*(PropagationModel )?(Calculate )*)"},
+    {"XmlCmdAdmin", R"((Reference )*QueryVersion\[\] (Reference |QueryVersion\[\] )*)"},
+    {"XmlCmdCreate", R"((DeploymentArea |AOI |Emitter |Receiver |DF |Station |Path |Device )Reference )"},
+    {"XmlCmdDelete", R"((DeploymentArea |AOI |Emitter |Receiver |DF |Device |SignalPath |Station )Reference )"},
+    {"XmlCmdCalc",
+     R"((FindPossibleSites |CEP |DetectionProbability |DFcoverage |InterlinkPlanning |BestSensorCov )Reference )"},
+    {"XmlRespRoot", R"((ORDER_DEF )*((Automatic |Interactive )(ORDER_DEF )*)?)"},
+    {"XmlAutoRespType", R"(CommandReference (ErrorMessage |EstimatedTime |GridResult |InterlinkResult |ArvVersion ))"},
+    {"XmlInteractRespType", R"((GridResult |InterlinkResult |Station ))"},
+    {"XmlResultObjectType", R"((?!))"}, // refuses its own end tag
+    {"XmlGridResultType", R"((?!))"},   // its parameters refuse theirs
+    {"XmlInterlinkResultType", R"(Parameters Result\[Text (ScreenshotFilename )?\] )"},
     {"XmlArvBtType",
-     "DeploymentArea* AreaOfInterest* KnownEmitter* Receiver* DirectionFinder* Result_FindSites* Result_CEP* "
-     "Result_DetectProb* Result_DfCoverage*"},
+     R"(ScreenshotPath\[\] DisplayedObjects\[(DeploymentArea )*(AreaOfInterest )*(KnownEmitter )*(Receiver )*)"
+     R"((DirectionFinder )*(Result_FindSites )*(Result_CEP )*(Result_DetectProb )*(Result_DfCoverage )*\] )"},
+    {"XmlResInfo_Cep_Type", R"(Name (AreaPolygon |AreaRect )ResultGrid Values )"},
+    {"XmlResInfo_DetectProb_Type", R"(Name (AreaPolygon |AreaRect )ResultGrid Values )"},
+    {"XmlResInfo_DfCov_Type", R"(Name (AreaPolygon |AreaRect )ResultGrid Values )"},
+    {"XmlResInfo_FindSites_Type", R"(Name (AreaPolygon |AreaRect )ResultGrid Values )"},
+    {"XmlResInfo_BestSensor_Type", R"(Name (AreaPolygon |AreaRect )ResultGrid Values (Comment )?)"},
+    {"XmlGridValuesType", R"(Min\[\] Max\[\] )"},
 };
 
 using Pairs = QHash<QString, QString>;
@@ -408,20 +443,25 @@ const TextRow* textRow(const QString& owner, const QString& tag)
     return nullptr;
 }
 
-/// The mark of the child in occurrenceRows, empty for none.
-QString occurrenceOf(const QString& owner, const QString& tag)
+/// What an element of the class must hold, as in contentRows.
+const QRegularExpression& contentOfClass(const QString& name)
 {
-    for (const ChildrenRow& row : occurrenceRows) {
-        if (owner != QLatin1String(row.owner))
-            continue;
-        const QStringList words = QString::fromLatin1(row.children).split(QLatin1Char(' '));
-        for (const QString& word : words) {
-            if (QStringView(word).left(word.size() - 1) == tag)
-                return word.right(1);
+    static QHash<QString, QRegularExpression> known;
+    const auto found = known.constFind(name);
+    if (found != known.constEnd())
+        return *found;
+    QString content;
+    if (name.startsWith(QLatin1String("XmlPropModel"))) {
+        for (const TextRow& row : textRows) {
+            if (name == QLatin1String(row.owner))
+                content += QStringLiteral("(%1 )?").arg(QLatin1String(row.tag));
         }
     }
-    const TextRow* row = textRow(owner, tag);
-    return row && owner.startsWith(QLatin1String("XmlPropModel")) ? QStringLiteral("?") : QString();
+    for (const ContentRow& row : contentRows) {
+        if (name == QLatin1String(row.owner))
+            content = QString::fromLatin1(row.content);
+    }
+    return *known.insert(name, QRegularExpression(QStringLiteral("^(%1)$").arg(content)));
 }
 
 // A document as we see it
@@ -443,6 +483,7 @@ struct Node {
     std::vector<int> children;
     std::vector<Attribute> attributes;
     QString readBy;       ///< the class of its own, empty for none
+    bool isOwn = false;   ///< whether what stands inside is read as if beside it
     bool isKnown = false; ///< whether its parent has it among its children
 
     bool isEmptyTag() const { return endBegin == end; }
@@ -551,7 +592,8 @@ private:
         else
             node.readBy = classOfChild(parent.readBy, node.tag);
         node.isKnown = !node.readBy.isEmpty() || textRow(parent.readBy, node.tag) != nullptr;
-        if (node.readBy == QLatin1String("own"))
+        node.isOwn = node.readBy == QLatin1String("own");
+        if (node.isOwn)
             node.readBy.clear();
     }
 };
@@ -729,31 +771,29 @@ bool isRefusal(const Tree& tree, const Error& error)
 
 enum class Damage { Removed, Repeated, Swapped };
 
-/// Whether a document without error is read with this damage, too.
-bool isReadAll(const Tree& tree, int index, Damage damage)
+/// The children of an element in the order of the document, as contentRows has them.
+QString contentShown(const Tree& tree, int index)
 {
-    const Node& node = tree.node(index);
-    const QString owner = tree.owner(node.parent).readBy;
-    const QString occurrence = occurrenceOf(owner, node.tag);
-    const std::vector<int>& siblings = tree.node(node.parent).children;
-    const auto isAlike = [&](int other) { return tree.node(other).tag == node.tag; };
-    const auto alike = std::count_if(siblings.cbegin(), siblings.cend(), isAlike);
-    const bool isRepeatable = occurrence == QLatin1String("*") || occurrence == QLatin1String("+");
-    switch (damage) {
-    case Damage::Removed:
-        if (occurrence == QLatin1String("+"))
-            return alike > (owner == QLatin1String("XmlAreaPolyType") ? 3 : 1);
-        return !occurrence.isEmpty();
-    case Damage::Repeated:
-        return isRepeatable;
-    case Damage::Swapped: {
-        const int next = *(std::find(siblings.cbegin(), siblings.cend(), index) + 1);
-        // A version query takes its reference, and a response its envelope, at any place.
-        return (isRepeatable && isAlike(next)) || owner == QLatin1String("XmlCmdAdmin")
-            || owner == QLatin1String("XmlRespRoot");
+    QString content;
+    for (const int child : tree.node(index).children) {
+        const Node& node = tree.node(child);
+        content += node.tag;
+        if (node.isOwn)
+            content += QLatin1Char('[') + contentShown(tree, child) + QLatin1Char(']');
+        content += QLatin1Char(' ');
     }
+    return content;
+}
+
+/// Whether every element holds what it must, in its order. Texts and attributes are not looked at.
+bool isComplete(const Tree& tree)
+{
+    for (int index = 0; index < int(tree.nodes.size()); ++index) {
+        const Node& node = tree.node(index);
+        if (!node.readBy.isEmpty() && !contentOfClass(node.readBy).match(contentShown(tree, index)).hasMatch())
+            return false;
     }
-    return false;
+    return true;
 }
 
 /// How the text of an element without children is read.
@@ -810,7 +850,9 @@ QByteArray contentOf(const QString& path)
     return "<Commands>\n" + content.mid(begin, content.indexOf(end, at) + end.size() - begin) + "\n</Commands>\n";
 }
 
-int theCases = 0; ///< how many documents were damaged
+int theCases = 0;  ///< how many documents were damaged
+int theRows = 0;   ///< how many rows of data all tests have
+int thePassed = 0; ///< how many of them were run
 
 } // namespace
 
@@ -846,6 +888,7 @@ private:
         for (const char* folder : {"good", "grid-results", "interactive-results"})
             addFolder(QStringLiteral(SAMPLES) + QLatin1Char('/') + QLatin1String(folder));
         QVERIFY2(count > 60, "too few documents found");
+        theRows += row;
     }
 
     /// Reads \a damaged, uses what was read, and returns the error. \a what names the damage.
@@ -881,7 +924,13 @@ private Q_SLOTS:
     void cleanupTestCase()
     {
         qInfo("%d damaged documents", theCases);
-        QVERIFY(theCases <= 100000);
+        if (thePassed == theRows && theRows > 0) // not when a part of the tests was asked for
+            QVERIFY2(theCases >= 89000 / TestEffort::divisor(), "damaged documents are missing");
+    }
+    void cleanup()
+    {
+        if (QTest::currentDataTag())
+            ++thePassed;
     }
 
     // The tables and the scanner know the whole of every sample, or the tests would show nothing.
@@ -896,9 +945,10 @@ private Q_SLOTS:
             if (!sample.endsBefore(sample.tree.node(index).startEnd))
                 QVERIFY2(sample.tree.node(index).isKnown, qPrintable(pathOf(sample, index)));
         }
-        if (!sample.error.text.isEmpty())
-            QVERIFY2(isRefusal(sample.tree, sample.error)
-                         || sample.error.message == QLatin1String("Unexpected characters"),
+        if (sample.error.text.isEmpty())
+            QVERIFY2(isComplete(sample.tree), "is read, though it is not complete");
+        else
+            QVERIFY2(isRefusal(sample.tree, sample.error) != isComplete(sample.tree),
                      qPrintable(describe(sample.error)));
     }
 
@@ -1142,8 +1192,11 @@ private Q_SLOTS:
                 QString damaged = sample.text;
                 damaged.replace(node.startEnd, node.endBegin - node.startEnd, piece.text);
                 const QString what = pathOf(sample, index) + QLatin1String(" has ") + QLatin1String(piece.name);
-                // A NaN may be not acceptable without a word, and so is an answer of which nothing is left.
-                const bool mayBeSilent = qstrcmp(piece.name, "nan") == 0
+                // A number that is none may be not acceptable without a word, and so is an answer of which nothing is
+                // left.
+                const bool isNumber = rule.kind == Kind::Real || node.tag == QLatin1String("Longitude")
+                    || node.tag == QLatin1String("Latitude");
+                const bool mayBeSilent = (isNumber && qstrcmp(piece.name, "nan") == 0)
                     || (rule.className == QLatin1String("XmlAutoRespType") && piece.text.isEmpty());
                 const Error error = readDamaged(sample, damaged, what, mayBeSilent);
                 const auto refusedAt = [&](int place) {
@@ -1202,19 +1255,21 @@ private:
         }
         const Node& owner = sample.tree.owner(node.parent);
         const Error moved = sample.errorIn(damaged, pieceEnd);
-        if (sample.error.text.isEmpty()) {
-            const bool isRead = isReadAll(sample.tree, index, damage);
-            if (isRead != error.text.isEmpty())
-                QTest::qFail(
-                    qPrintable(what + QLatin1String(isRead ? " is refused: " : " is not refused: ") + describe(error)),
-                    __FILE__, __LINE__);
-        }
-        // Whole again, when the sample was refused for the very piece.
-        if (error == moved || (!sample.error.text.isEmpty() && error.text.isEmpty()))
+        const Tree tree(damaged);
+        // A sample that is refused for a text or an attribute is so until they are gone, one that lacks something or
+        // has too much until it is complete.
+        const bool isRefusedForText = !sample.error.text.isEmpty() && isComplete(sample.tree);
+        const bool isGone =
+            damage == Damage::Removed && sample.error.place > node.begin && sample.error.place <= node.end;
+        const bool isRead = isComplete(tree) && (!isRefusedForText || isGone);
+        if (isRead != error.text.isEmpty())
+            QTest::qFail(
+                qPrintable(what + QLatin1String(isRead ? " is refused: " : " is not refused: ") + describe(error)),
+                __FILE__, __LINE__);
+        if (error == moved || isRead)
             return;
         const int end = owner.end + int(damaged.size() - sample.text.size());
-        if (error.className.isEmpty() || error.place <= node.begin || error.place > end
-            || !isRefusal(Tree(damaged), error))
+        if (error.className.isEmpty() || error.place <= node.begin || error.place > end || !isRefusal(tree, error))
             QTest::qFail(qPrintable(what + QLatin1String(": ") + describe(error)), __FILE__, __LINE__);
     }
 };
