@@ -108,6 +108,27 @@ private:
     int m_reads = 0;
 };
 
+/// A document that comes byte by byte, but for the first four, by which Qt knows the encoding, and for those beyond
+/// ASCII, which come with what follows them.
+class DrippingDocument : public QBuffer {
+public:
+    explicit DrippingDocument(const QByteArray& document)
+    {
+        setData(document);
+        open(QIODevice::ReadOnly);
+    }
+
+protected:
+    qint64 readData(char* data, qint64 size) override
+    {
+        const auto isAscii = [](char byte) { return static_cast<unsigned char>(byte) < 0x80; };
+        const QByteArray& bytes = buffer();
+        const auto begin = bytes.cbegin() + int(pos());
+        const auto end = pos() == 0 ? begin + 3 : std::find_if(begin, bytes.cend(), isAscii);
+        return QBuffer::readData(data, std::min(size, qint64(end - begin) + 1));
+    }
+};
+
 // Reading
 
 using NewElement = std::unique_ptr<IXmlElement> (*)();
@@ -416,8 +437,21 @@ const Growth growths[] = {
 
 } // namespace
 
+Q_DECLARE_METATYPE(NewElement)
+
 class HostileTest : public QObject {
     Q_OBJECT
+
+private:
+    /// What Qt's reader alone says of a document that comes byte by byte.
+    static QString bareError(const QByteArray& document)
+    {
+        DrippingDocument drops(document);
+        QXmlStreamReader reader(&drops);
+        while (!reader.atEnd())
+            reader.readNext();
+        return reader.errorString();
+    }
 
 private Q_SLOTS:
     void initTestCase()
@@ -562,6 +596,163 @@ private Q_SLOTS:
         const Document::ReadError readError = Document::read(document, name);
         QVERIFY(isSame(readError.text, error));
         QVERIFY(readError.line >= 1 && readError.column >= 0 && readError.column <= document.size());
+    }
+
+    void brokenInside_data()
+    {
+        QTest::addColumn<NewElement>("newElement");
+        QTest::addColumn<QByteArray>("document"); // the place is marked with an asterisk
+        QTest::addColumn<QString>("refusal");     // empty for the reader's own words
+        struct Place {
+            const char* name;
+            const char* className; ///< who refuses the text; empty for the reader
+            const char* message;
+            NewElement newElement;
+            QByteArray before;
+            QByteArray behind;
+        };
+        const auto model = [](const char* set, const char* parameter) {
+            const QByteArray tag = QByteArray("Properties") + set;
+            const QByteArray before = "<C><PropagationModel><SelectModel>ITM</SelectModel><" + tag + "><";
+            return std::pair<QByteArray, QByteArray>(before + parameter + ">1",
+                                                     QByteArray("</") + parameter + "></" + tag
+                                                         + "><Reference>r</Reference></PropagationModel></C>");
+        };
+        const QByteArray response =
+            "<R type=\"automatic\" final=\"1\" timestamp=\"2024-03-05T14:07:09\"><Automatic status=\"ack\">"
+            "<CommandReference>r</CommandReference>";
+        const QByteArray responseEnd = "</Automatic></R>";
+        const QByteArray sites = "<C><Calculate><FindPossibleSites><RandomEmitters>";
+        const QByteArray sitesEnd = "</RandomEmitters><DeploymentAreas><All/></DeploymentAreas></FindPossibleSites>"
+                                    "<Reference>r</Reference></Calculate></C>";
+        const QByteArray link = "<C><Calculate><InterlinkPlanning><FirstName>";
+        const QByteArray linkEnd = "</SecondName></InterlinkPlanning><Reference>r</Reference></Calculate></C>";
+        const QByteArray create = "<C><Create><Device><DeviceCategory>Cable</DeviceCategory><Name>";
+        const QByteArray snapshot = "<S version=\"1.0\"><ScreenshotPath>p</ScreenshotPath><DisplayedObjects>";
+        const QByteArray longName(200, 'n');
+        std::vector<Place> places = {
+            // Texts that are read whole: what cannot be read of them is refused in their place.
+            {"the selection of a model", "XmlPropModelEnumType", "Illegal enum value.", make<XmlCmdRoot>,
+             "<C><PropagationModel><SelectModel>IT", "M</SelectModel><Reference>r</Reference></PropagationModel></C>"},
+            {"the number of emitters", "XmlFindSitesType", "Illegal value for \"Number\" (must be numeric)",
+             make<XmlCmdRoot>, sites + "<Number>1", "2</Number><Distribution>Grid</Distribution>" + sitesEnd},
+            {"the distribution of emitters", "XmlFindSitesType", "Illegal value for \"Distribution\"", make<XmlCmdRoot>,
+             sites + "<Number>1</Number><Distribution>Gr", "id</Distribution>" + sitesEnd},
+            {"the first name of a link", "", "", make<XmlCmdRoot>, link + "a", "b</FirstName><SecondName>c" + linkEnd},
+            {"the second name of a link", "", "", make<XmlCmdRoot>, link + "a</FirstName><SecondName>b", "c" + linkEnd},
+            {"a name of a link that is too long", "", "", make<XmlCmdRoot>, link + longName,
+             "b</FirstName><SecondName>c" + linkEnd},
+            {"the estimated time", "XmlAutoRespType", "Illegal dateTime format", make<XmlRespRoot>,
+             response + "<EstimatedTime>2024-03-", "05T14:07:09</EstimatedTime>" + responseEnd},
+            {"the error message", "", "", make<XmlRespRoot>, response + "<ErrorMessage>a",
+             "b</ErrorMessage>" + responseEnd},
+            {"the number of an order", "", "", make<XmlCmdRoot>, "<C><ORDER_DEF><ORDER_ID>ARV24",
+             "</ORDER_ID><ORDER_SENDER>s</ORDER_SENDER></ORDER_DEF></C>"},
+            {"a longitude", "", "", make<XmlArvBtType>,
+             snapshot + "<KnownEmitter version=\"1.0\"><Name>n</Name><Position version=\"1.0\"><Longitude>1",
+             "</Longitude><Latitude>1</Latitude></Position></KnownEmitter></DisplayedObjects></S>"},
+            // Texts that are read piece by piece
+            {"a name", "", "", make<XmlCmdRoot>, create + "a", "b</Name></Device></Create></C>"},
+            {"a category", "", "", make<XmlCmdRoot>, "<C><Create><Device><DeviceCategory>Ca",
+             "ble</DeviceCategory></Device></Create></C>"},
+            {"a reference", "", "", make<XmlRespRoot>,
+             "<R type=\"automatic\" final=\"1\" timestamp=\"2024-03-05T14:07:09\"><Automatic status=\"ack\">"
+             "<CommandReference>r",
+             "</CommandReference>" + responseEnd},
+            {"the path of a picture", "", "", make<XmlArvBtType>, "<S version=\"1.0\"><ScreenshotPath>p",
+             "</ScreenshotPath><DisplayedObjects/></S>"},
+            // Attributes
+            {"the version of a command's object", "", "", make<XmlCmdRoot>, "<C><Create><Device version=\"1.0",
+             "\"></Device></Create></C>"},
+            {"an attribute of a command document", "", "", make<XmlCmdRoot>, "<C a=\"", "\"></C>"},
+            {"the status of a response", "", "", make<XmlRespRoot>,
+             "<R type=\"automatic\" final=\"1\" timestamp=\"2024-03-05T14:07:09\"><Automatic status=\"ack",
+             "\"></Automatic></R>"},
+            {"the type of a response", "", "", make<XmlRespRoot>, "<R type=\"automatic",
+             "\" final=\"1\" timestamp=\"2024-03-05T14:07:09\"></R>"},
+            {"the version of a snapshot", "", "", make<XmlArvBtType>, "<S version=\"1.0",
+             "\"><ScreenshotPath>p</ScreenshotPath><DisplayedObjects/></S>"},
+            // Between elements
+            {"between commands", "", "", make<XmlCmdRoot>, "<C><Administrative><QueryVersion/></Administrative>",
+             "<Administrative><QueryVersion/></Administrative></C>"},
+            {"between the parts of a response", "", "", make<XmlRespRoot>, response,
+             "<ArvVersion>1</ArvVersion>" + responseEnd},
+            {"between the objects of a snapshot", "", "", make<XmlArvBtType>, snapshot, "</DisplayedObjects></S>"},
+            {"in front of the end", "", "", make<XmlCmdRoot>, "<C>", "</C>"},
+        };
+        struct Parameter {
+            const char* set;
+            const char* className;
+            const char* tag;
+            const char* message;
+        };
+        for (const Parameter& parameter : {
+                 Parameter{"Freespace", "XmlPropModelFSType", "K-factor", "Illegal K-factor value (must be numeric)"},
+                 Parameter{"OLOS", "XmlPropModelOLOSType", "MaxRange_km", "Illegal range value (must be numeric)"},
+                 Parameter{"ITM", "XmlPropModelITMType", "Pol", "Illegal value for \"Pol\""},
+                 Parameter{"P452", "XmlPropModelP542Type", "Temp_C", "Illegal Temp_C value (must be numeric)"},
+                 Parameter{"P1546", "XmlPropModelP1546Type", "PathCorrection", "Illegal enum for PathCorrection"},
+                 Parameter{"P526", "XmlPropModelP526Type", "Surface", "Illegal enum for Surface"},
+                 Parameter{"P533", "XmlPropModelP526Type", "K-factor", "Illegal K-factor value (must be numeric)"},
+                 Parameter{"Okumura", "XmlPropModelHataType", "CitySize", "Illegal value for \"CitySize\""},
+             }) {
+            const auto [before, behind] = model(parameter.set, parameter.tag);
+            places.push_back({parameter.tag, parameter.className, parameter.message, make<XmlCmdRoot>, before, behind});
+            places.back().name = parameter.set;
+        }
+        for (const Place& place : places) {
+            const QString refusal = QLatin1String(place.className).isEmpty()
+                ? QString()
+                : protocolError(place.className, place.before.size(), place.message);
+            QTest::newRow(place.name) << place.newElement << place.before + '*' + place.behind << refusal;
+        }
+    }
+
+    // Bytes that are no UTF-8, deep inside a document of each kind: the reader's error, but for texts that are read
+    // whole, of which nothing is left and which are refused in the place of the error. The bytes come one by one, since
+    // Qt otherwise finds them as soon as it has fetched the piece in which they are, and the elements read nothing.
+    void brokenInside()
+    {
+        QFETCH(NewElement, newElement);
+        QFETCH(QByteArray, document);
+        QFETCH(QString, refusal);
+        const QString encoding = QStringLiteral("Encountered incorrectly encoded content.");
+        for (const char* broken : {"\xff", "\x80", "\xe2\x82", "\xc0\x80", "\xed\xa0\x80", "\xf4\x90\x80\x80"}) {
+            QByteArray bytes = document;
+            bytes.replace('*', broken);
+            QString expected = refusal;
+            if (refusal.isEmpty()) {
+                // Between tags Qt takes such a byte for the end.
+                expected = bareError(bytes);
+                QVERIFY(expected == encoding || expected == QLatin1String("Premature end of document."));
+            }
+            DrippingDocument drops(bytes);
+            QXmlStreamReader reader(&drops);
+            const std::unique_ptr<IXmlElement> element = newElement();
+            QVERIFY(isSame(readDirectly(reader, *element), expected));
+            // What was read until then can be used.
+            element->isValid();
+            element->syntaxError();
+            QVERIFY(!Document::written(*element, QStringLiteral("Again")).isEmpty());
+            element->reset();
+            // In one piece it is the same error, but for nothing of the element's.
+            QVERIFY(isSame(readDirectly(bytes, *element), encoding));
+        }
+        // It is the bytes that were refused, not the document: without them, no encoding is complained of.
+        QByteArray sound = document;
+        sound.replace('*', "");
+        const std::unique_ptr<IXmlElement> element = newElement();
+        const QString error = readDirectly(sound, *element);
+        QVERIFY2(error != encoding && (refusal.isEmpty() || error != refusal), qPrintable(error));
+
+        // An encoding that Qt does not know
+        const QByteArray unknown = "<?xml version=\"1.0\" encoding=\"no-such\"?>" + sound;
+        element->reset();
+        QVERIFY(isSame(readDirectly(unknown, *element), QStringLiteral("Encoding no-such is unsupported")));
+        DrippingDocument drops(unknown);
+        QXmlStreamReader reader(&drops);
+        QVERIFY(isSame(readDirectly(reader, *element), QStringLiteral("Encoding no-such is unsupported")));
+        QCOMPARE(Document::written(*element, QStringLiteral("Again")).isEmpty(), false);
     }
 
     // Other encodings than UTF-8 are no harm.
