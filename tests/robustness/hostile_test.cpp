@@ -473,6 +473,18 @@ const Growth growths[] = {
      atMost(0.1)},
 };
 
+/// A frequency with many attributes that nobody asks for, before the one that counts.
+QByteArray withAttributes(int count)
+{
+    QByteArray attributes;
+    for (int i = 0; i < count; ++i)
+        attributes += " a" + QByteArray::number(i) + "=\"1\"";
+    return "<F" + attributes + " unit=\"MHz\">1</F>";
+}
+/// Of a tag with many attributes, and of a long tag that the reader does not refuse, as of other texts
+constexpr double attributesMemory = atMost(38, 48);
+constexpr double longTagMemory = atMost(7.1);
+
 } // namespace
 
 Q_DECLARE_METATYPE(NewElement)
@@ -885,14 +897,8 @@ private Q_SLOTS:
     // document. The library adds no more than a fraction.
     void attributes()
     {
-        const auto document = [](int count) {
-            QByteArray attributes;
-            for (int i = 0; i < count; ++i)
-                attributes += " a" + QByteArray::number(i) + "=\"1\"";
-            return "<F" + attributes + " unit=\"MHz\">1</F>";
-        };
         const int count = TestEffort::reduced(10000);
-        const QByteArray many = document(count);
+        const QByteArray many = withAttributes(count);
         double alone = std::numeric_limits<double>::max();
         double together = alone;
         for (int run = 0; run < 3; ++run) {
@@ -913,6 +919,40 @@ private Q_SLOTS:
         qInfo("%d attributes: %.3f s, of the reader alone %.3f s", count, together, alone);
         QVERIFY2(together < 1.5 * alone + 0.1, "the library takes more than a fraction");
         QVERIFY2(alone < 5.0, "the reader takes more than it may");
+    }
+
+    // Of a hundred thousand, the reader has compared each with all before it once it stands at the tag. What the
+    // element does from there on is little, and in proportion.
+    void attributesByTheHundredThousand()
+    {
+        const auto own = [](int count, qint64* memory) {
+            WatchedDocument watched(withAttributes(count));
+            QXmlStreamReader reader(&watched);
+            const double start = processorSeconds();
+            reader.readNextStartElement();
+            const double atTag = processorSeconds();
+            watched.look();
+            const qint64 memoryAtTag = watched.most();
+            XmlFreqType frequency;
+            frequency.processXml(reader, reader.name().toString());
+            const double seconds = processorSeconds() - atTag;
+            watched.look();
+            *memory = watched.most();
+            const bool isRead = !reader.hasError() && frequency.isValid() && frequency.syntaxError().isEmpty();
+            qInfo("%6d attributes: %.4f s, of the reader %.3f s; %.2f bytes of memory for a byte, %.2f at the tag",
+                  count, seconds, atTag - start, double(watched.most()) / double(watched.size()),
+                  double(memoryAtTag) / double(watched.size()));
+            return isRead ? seconds : -1.0;
+        };
+        const int count = 100000 / fewer();
+        qint64 memory = 0;
+        const double ofQuarter = own(count / 4, &memory);
+        const double ofWhole = own(count, &memory);
+        QVERIFY2(ofQuarter >= 0 && ofWhole >= 0, "not read");
+        const double clock = 0.004;
+        QVERIFY2(ofWhole < 8 * std::max(ofQuarter, clock),
+                 qPrintable(QStringLiteral("%1 s become %2 s").arg(ofQuarter).arg(ofWhole)));
+        QVERIFY2(double(memory) <= 300000 + attributesMemory * double(withAttributes(count).size()), "too much memory");
     }
 
     void longTags_data()
@@ -948,8 +988,12 @@ private Q_SLOTS:
         QFETCH(QString, error);
         QFETCH(QString, missed);
         const double start = processorSeconds();
+        WatchedDocument watched(document);
         XmlNameAllType names;
-        const QString actual = readDirectly(document, names);
+        QXmlStreamReader reader(&watched);
+        const QString actual = readDirectly(reader, names);
+        watched.look();
+        qInfo("%.2f bytes of memory for a byte", double(watched.most()) / double(document.size()));
         const QString limit =
             QStringLiteral("Length of XML attribute name exceeds implementation limits (4KiB characters).");
         const QString stopped = QStringLiteral("Expected %1, but got '[a-zA-Z]'.").arg(missed);
@@ -957,6 +1001,7 @@ private Q_SLOTS:
         QCOMPARE(names.isValid(), actual.isEmpty());
         QCOMPARE(names.syntaxError().isEmpty(), actual.isEmpty());
         QVERIFY(processorSeconds() - start < 2.0);
+        QVERIFY2(double(watched.most()) <= 300000 + longTagMemory * double(document.size()), "too much memory");
     }
 
     // What is read is given back, and nothing of the document stays.
