@@ -243,7 +243,8 @@ const ChildrenRow childrenRows[] = {
 constexpr char parametersByType[] = "FindSites=XmlFindSitesType CEP=XmlCepType DetectProb=XmlDetectProbType "
                                     "DfCoverage=XmlDfCovType BestSensorCov=XmlBestSensorType";
 
-/// The children that are plain texts, which their parent reads whole.
+/// The children that are plain texts, which their parent reads whole. The file name of a grid result is missing: it
+/// stands behind parameters that refuse their end, so that nobody comes to it.
 struct TextRow {
     const char* owner;
     const char* tag;
