@@ -54,11 +54,120 @@ void use(T& element)
     Samples::reset(element);
 }
 
+constexpr int fewestObjects = 12;
+constexpr int mostObjects = 24;
+
+/// Numbers to generate objects from: all the ways to make one of class \a T, or some spread evenly over many ways.
+template <typename T>
+const std::vector<int>& numbersOf()
+{
+    static const std::vector<int> numbers = [] {
+        int ways = fewestObjects;
+        for (int number = 0; number < ways; ++number) {
+            Random random(static_cast<quint32>(number), number);
+            Generator::generate<T>(random, Validity::Valid);
+            ways = std::max(ways, random.ways());
+        }
+        const int step = ways > mostObjects ? ways / mostObjects | 1 : 1; // odd, so that it shows all that is in pairs
+        std::vector<int> result;
+        for (int number = 0; number < ways; number += step)
+            result.push_back(number);
+        return result;
+    }();
+    return numbers;
+}
+
 template <typename T>
 T generated(int number, Validity validity = Validity::Valid)
 {
-    Random random(static_cast<quint32>(number));
+    Random random(static_cast<quint32>(number), number);
     return Generator::generate<T>(random, validity);
+}
+
+/// Tells of which things that the objects of a class may hold none was there.
+class Census {
+public:
+    void note(const char* name, bool isThere)
+    {
+        const auto isThis = [name](const Entry& entry) { return qstrcmp(entry.first, name) == 0; };
+        const auto found = std::find_if(m_entries.begin(), m_entries.end(), isThis);
+        if (found == m_entries.end())
+            m_entries.emplace_back(name, isThere);
+        else
+            found->second = found->second || isThere;
+    }
+    QByteArray missing() const
+    {
+        QByteArray names;
+        for (const Entry& entry : m_entries) {
+            if (!entry.second)
+                names += QByteArray(" ") + entry.first;
+        }
+        return names;
+    }
+
+private:
+    using Entry = std::pair<const char*, bool>;
+    std::vector<Entry> m_entries;
+};
+
+/// Whether there is something in a value, by which an absent one is told from it.
+template <typename Value>
+bool isSomething(const Value& value)
+{
+    if constexpr (std::is_same_v<Value, QString>)
+        return !value.isEmpty();
+    else if constexpr (std::is_same_v<Value, QDateTime>)
+        return value.isValid();
+    else
+        return true;
+}
+
+/// Notes everything that an object holds.
+template <typename T>
+class Counting : public Visitor<Counting<T>> {
+public:
+    Counting(const T& object, Census& census)
+        : m_object(object)
+        , m_census(census)
+    {
+    }
+    template <typename Get, typename Set>
+    void child(const char* name, Get get, Set)
+    {
+        heldOne(name, get);
+    }
+    template <typename Get>
+    void heldOne(const char* name, Get get)
+    {
+        m_census.note(name, pointerTo(std::invoke(get, m_object)) != nullptr);
+    }
+    template <typename Get>
+    void held(const char* name, Get get)
+    {
+        m_census.note(name, !std::invoke(get, m_object).isEmpty());
+    }
+    template <typename Get, typename Set, typename Rule>
+    void value(const char* name, Get get, Set, const Rule&)
+    {
+        m_census.note(name, isSomething<ValueOf<T, Get>>(std::invoke(get, m_object)));
+    }
+    template <typename Has, typename Get, typename Set, typename Rule>
+    void parameter(const char* name, Has has, Get, Set, const Rule&)
+    {
+        m_census.note(name, std::invoke(has, m_object));
+    }
+
+private:
+    const T& m_object;
+    Census& m_census;
+};
+
+template <typename T>
+void count(const T& object, Census& census)
+{
+    Counting<T> counting(object, census);
+    visit<T>(counting);
 }
 
 // An element's own things given to it
@@ -67,17 +176,19 @@ T generated(int number, Validity validity = Validity::Valid)
 template <typename T>
 class GivingBack : public Visitor<GivingBack<T>> {
 public:
-    explicit GivingBack(const T& original)
+    /// Notes in \a given which of them were there to be given.
+    GivingBack(const T& original, Census& given)
         : m_original(original)
+        , m_given(given)
     {
     }
-    int given() const { return m_given; }
 
     template <typename Get, typename Set>
     void child(const char* name, Get get, Set set)
     {
         T object(m_original);
         const auto* held = pointerTo(std::invoke(get, std::as_const(object)));
+        m_given.note(name, held);
         if (!held)
             return;
         std::invoke(set, object, *held);
@@ -91,20 +202,25 @@ public:
     void value(const char* name, Get get, Set set, const Rule&)
     {
         T object(m_original);
+        const ValueOf<T, Get> given = std::invoke(get, std::as_const(object));
+        m_given.note(name, isSomething(given));
         std::invoke(set, object, std::invoke(get, std::as_const(object)));
-        verifySame(object, set, ValueOf<T, Get>(std::invoke(get, m_original)), name);
+        verifySame(object, set, given, name);
     }
     template <typename Has, typename Get, typename Set, typename Rule>
     void parameter(const char* name, Has has, Get get, Set set, const Rule& rule)
     {
         if (std::invoke(has, m_original))
             value(name, get, set, rule);
+        else
+            m_given.note(name, false);
     }
     template <typename Get, typename Set>
     void list(const char* name, Get get, Set set)
     {
         using Pointers = ValueOf<T, Get>;
         T object(m_original);
+        m_given.note(name, !std::invoke(get, std::as_const(object)).isEmpty());
         if (std::invoke(get, std::as_const(object)).isEmpty())
             return; // there is nothing of its own to give
         std::invoke(set, object, std::invoke(get, std::as_const(object)));
@@ -142,6 +258,7 @@ public:
         QStringList expected;
         for (const auto* item : std::invoke(get, std::as_const(object)))
             expected.append(shown(*item));
+        m_given.note(name, !expected.isEmpty());
         if (expected.isEmpty())
             return;
         for (int left = 5; left > 0; --left) { // often enough for the list to need more room
@@ -152,7 +269,6 @@ public:
         for (const auto* item : std::invoke(get, std::as_const(object)))
             held.append(shown(*item));
         QVERIFY2(held == expected, name);
-        ++m_given;
     }
     template <typename Get>
     void held(const char*, Get)
@@ -206,11 +322,10 @@ private:
         if constexpr (std::is_base_of_v<XmlNameChoice, T>)
             std::invoke(set, expected, notItsOwn); // makes the choice, also where that changes nothing else
         QVERIFY2(shown(object) == shown(expected), name);
-        ++m_given;
     }
 
     const T& m_original;
-    int m_given = 0;
+    Census& m_given;
 };
 
 /// Puts the text of the tag into each of an element's texts, and lets that be the tag.
@@ -314,8 +429,6 @@ const QStringList& keepingClasses()
     return names;
 }
 
-constexpr int objectsOfAClass = 16;
-
 } // namespace
 
 class LifetimeTest : public QObject {
@@ -326,16 +439,15 @@ private Q_SLOTS:
     {
         Samples::forEachClass([](auto type, const char* name) {
             using T = typename decltype(type)::Type;
-            int given = 0;
-            for (int number = 0; number < objectsOfAClass; ++number) {
-                for (const Validity validity : {Validity::Valid, Validity::Faulty}) {
+            for (const Validity validity : {Validity::Valid, Validity::Faulty}) {
+                Census given;
+                for (const int number : numbersOf<T>()) {
                     const T object = generated<T>(number, validity);
-                    GivingBack<T> giving(object);
+                    GivingBack<T> giving(object, given);
                     visit<T>(giving);
-                    given += giving.given();
                 }
+                verifyComplete(given, name); // each setter was given something
             }
-            QVERIFY2(given > 0, name);
         });
     }
 
@@ -369,9 +481,13 @@ private Q_SLOTS:
     {
         Samples::forEachClass([](auto type, const char* name) {
             using T = typename decltype(type)::Type;
-            for (int number = 0; number < objectsOfAClass; ++number) {
+            Census sources;
+            Census targets;
+            for (const int number : numbersOf<T>()) {
                 auto source = std::make_unique<T>(generated<T>(number));
                 auto target = std::make_unique<T>(generated<T>(number + 1, Validity::Faulty));
+                count(*source, sources);
+                count(*target, targets);
                 const QString expected = shown(*source);
                 T copy(*source);
                 *target = *source;
@@ -382,6 +498,8 @@ private Q_SLOTS:
                 QVERIFY2(shown(*target) == expected, name);
                 use(*target);
             }
+            verifyComplete(sources, name);
+            verifyComplete(targets, name);
         });
     }
 
@@ -391,11 +509,13 @@ private Q_SLOTS:
         Samples::forEachClass([&keeping](auto type, const char* name) {
             using T = typename decltype(type)::Type;
             bool isKeeping = false;
+            Census usedOnes;
             for (const Samples::Sample& sample : Samples::samplesOf<T>()) {
                 if (!sample.error.isEmpty())
                     continue; // what is left of those is told below
-                for (int number = 0; number < objectsOfAClass; ++number) {
+                for (const int number : numbersOf<T>()) {
                     T used = generated<T>(number);
+                    count(used, usedOnes);
                     T fresh = Generator::newObject<T>(isCommand(used));
                     const QString freshError = ElementTest::readError(fresh, sample.xml);
                     const QString error = ElementTest::readError(used, sample.xml);
@@ -411,6 +531,7 @@ private Q_SLOTS:
                     }
                 }
             }
+            verifyComplete(usedOnes, name);
             if (isKeeping)
                 keeping.append(QLatin1String(name));
         });
@@ -456,8 +577,10 @@ private Q_SLOTS:
             std::vector<T> vector;
             QList<T> list;
             QStringList expected;
-            for (int number = 0; number < objectsOfAClass; ++number) {
-                T object = generated<T>(number, number % 2 == 0 ? Validity::Valid : Validity::Faulty);
+            Census moved;
+            for (const int number : numbersOf<T>()) {
+                T object = generated<T>(number, vector.size() % 4 == 3 ? Validity::Faulty : Validity::Valid);
+                count(object, moved);
                 expected.append(shown(object));
                 list.append(object);
                 vector.push_back(std::move(object)); // moves all of them about when it grows
@@ -465,6 +588,7 @@ private Q_SLOTS:
                 object = list.last();
                 QVERIFY2(shown(object) == expected.last(), name);
             }
+            verifyComplete(moved, name);
             const auto verify = [&](const auto& container) {
                 int index = 0;
                 for (const T& object : container)
@@ -518,6 +642,11 @@ private Q_SLOTS:
     }
 
 private:
+    /// Everything that an object may hold was there in one of those counted.
+    static void verifyComplete(const Census& census, const char* name)
+    {
+        QVERIFY2(census.missing().isEmpty(), qPrintable(QLatin1String(name) + QLatin1String(census.missing())));
+    }
     /// Of the class that need not be a command, one that is.
     template <typename T>
     static T generatedCommand(int number)
