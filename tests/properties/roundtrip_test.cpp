@@ -759,12 +759,13 @@ private Q_SLOTS:
         }
     }
 
-    // The factors between hertz and megahertz are no exact numbers: from some gigahertz on, each way over the wire may
-    // change the last decimals.
+    // The factors between megahertz and the other units make no exact numbers: in hertz, from some gigahertz on each
+    // way over the wire may change the last decimals.
     void hertzDrift()
     {
-        const auto written = [](const char* number) {
-            return QStringLiteral(R"(<Frequency version="1.0" unit="Hz">%1</Frequency>)").arg(QLatin1String(number));
+        const auto written = [](const char* number, const char* unit = "Hz") {
+            return QStringLiteral(R"(<Frequency version="1.0" unit="%1">%2</Frequency>)")
+                .arg(QLatin1String(unit), QLatin1String(number));
         };
         const auto again = [](const QString& xml) {
             return ElementTest::written(ElementTest::readFrom<XmlFreqType>(xml), QStringLiteral("Frequency"));
@@ -774,6 +775,10 @@ private Q_SLOTS:
         QCOMPARE(again(written("5224817839.000000")), written("5224817838.999999"));
         // Below, nothing changes.
         QCOMPARE(again(written("899999999.999999")), written("899999999.999999"));
+        // So do other units with numbers as long, which no radio uses; the getter's own does not.
+        QCOMPARE(again(written("7570501424.049710", "kHz")), written("7570501424.049711", "kHz"));
+        QCOMPARE(again(written("6354286735.777566", "GHz")), written("6354286735.777567", "GHz"));
+        QCOMPARE(again(written("7570501424.049710", "MHz")), written("7570501424.049710", "MHz"));
     }
 
     // Documents

@@ -387,7 +387,7 @@ GENERATOR_DESCRIBE(XmlFreqType)
     v.value("unit", &Self::unit, &Self::setUnit,
             OneOf{{TestValues::text("Hz"), TestValues::text("kHz"), TestValues::text("MHz"), TestValues::text("GHz")},
                   {TestValues::text("mhz"), QString()}});
-    // Above a gigahertz, hertz do not keep their last decimals.
+    // make() sees to higher ones.
     v.value("frequency_MHz", &Self::frequency_MHz, &Self::setFrequency_MHz,
             Real{1e-4, 900.0, 6, {1e-20, 0.1, 900.0, infinity}, {0.0, -1.0, -infinity, notANumber}});
 }
@@ -1218,6 +1218,18 @@ inline void make(Making<ArvXml::XmlNameAllMultiType>& making)
         making.object().setAll();
     else
         visit<ArvXml::XmlNameAllMultiType>(making);
+}
+/// High frequencies, too; but in units other than the getter's, numbers of ten digits and more may not keep their last
+/// decimals on the wire.
+inline void make(Making<ArvXml::XmlFreqType>& making)
+{
+    visit<ArvXml::XmlFreqType>(making);
+    ArvXml::XmlFreqType& frequency = making.object();
+    const double highest = 9e8 * scaleOf(frequency);
+    if (!(frequency.frequency_MHz() > 0.0) || making.random().oneIn(2))
+        return;
+    const bool isCarriedAsItIs = frequency.unit() == QLatin1String("MHz") && making.random().oneIn(4);
+    frequency.setFrequency_MHz(isCarriedAsItIs ? 1e300 : making.random().real(1e-4, highest));
 }
 /// Numbers ascend; three vertices or more can be read.
 inline void make(Making<ArvXml::XmlAreaPolyType>& making)
