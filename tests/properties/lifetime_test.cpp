@@ -47,7 +47,6 @@ void use(T& element)
     element.syntaxError();
     Samples::reset(element);
     element = copy;
-    QVERIFY(shown(element) == before);
     Samples::reset(copy);
     QVERIFY(shown(element) == before);
     QVERIFY(shown(assigned) == before);
@@ -376,18 +375,61 @@ private:
     int m_texts = 0;
 };
 
-/// The ends of all tokens of a document but the last: where it is cut off.
-std::vector<int> cutsOf(const QString& xml)
+/// A document with a fault.
+struct Damage {
+    enum Kind { Cut, UnknownElement, WrongText };
+    Kind kind;
+    QString tag; ///< the element that it is in
+    int depth;   ///< 1 in the outermost element
+    QString xml;
+};
+
+/// A document cut off behind each of its tokens, with an unknown element in the middle of each element, and with a
+/// wrong text in the place of each text.
+std::vector<Damage> damagesOf(const QString& xml)
 {
-    std::vector<int> cuts;
+    struct Open {
+        QString tag;
+        std::vector<int> middles; ///< behind the start tag, and behind each child
+        bool isText = false;
+    };
+    const auto unknown = QStringLiteral("<Unknown/>");
+    std::vector<Damage> damages;
+    std::vector<Open> open;
+    const auto add = [&](Damage::Kind kind, int from, int to, const QString& instead) {
+        damages.push_back(
+            {kind, open.back().tag, static_cast<int>(open.size()), xml.left(from) + instead + xml.mid(to)});
+    };
     QXmlStreamReader reader(xml);
+    int begin = 0;
     while (!reader.atEnd()) {
         reader.readNext();
-        const int end = static_cast<int>(reader.characterOffset());
-        if (end > 0 && end < xml.size() && (cuts.empty() || cuts.back() < end))
-            cuts.push_back(end);
+        const int end = reader.isCharacters() ? static_cast<int>(xml.indexOf(QLatin1Char('<'), begin))
+                                              : static_cast<int>(reader.characterOffset());
+        if (reader.isStartElement()) {
+            open.push_back({reader.name().toString(), {end}});
+        } else if (reader.isCharacters()) {
+            add(Damage::WrongText, begin, end, QStringLiteral("?!"));
+            add(Damage::UnknownElement, end, end, unknown);
+            open.back().isText = true;
+        } else if (reader.isEndElement()) {
+            const int middle = open.back().middles[open.back().middles.size() / 2];
+            if (end == open.back().middles.front()) // an empty element, which ends with "/>"
+                add(Damage::UnknownElement, end - 2, end,
+                    QLatin1Char('>') + unknown + QStringLiteral("</%1>").arg(open.back().tag));
+            else if (!open.back().isText)
+                add(Damage::UnknownElement, middle, middle, unknown);
+        }
+        if (end > begin && end < xml.size() && !open.empty())
+            add(Damage::Cut, end, xml.size(), QString());
+        begin = end;
+        if (reader.isEndElement()) {
+            open.pop_back();
+            if (!open.empty())
+                open.back().middles.push_back(end);
+        }
     }
-    return cuts;
+    return damages;
 }
 
 /// The classes that keep something when they are read into: what the document does not mention, or items to which
@@ -506,7 +548,7 @@ private Q_SLOTS:
     void readingIntoUsedElements()
     {
         QStringList keeping;
-        Samples::forEachClass([&keeping](auto type, const char* name) {
+        Samples::forEachClass([&](auto type, const char* name) {
             using T = typename decltype(type)::Type;
             bool isKeeping = false;
             Census usedOnes;
@@ -540,34 +582,57 @@ private Q_SLOTS:
 
     void readingThatFails()
     {
-        Samples::forEachClass([](auto type, const char* name) {
+        QStringList texts;
+        QStringList elements;
+        Samples::forEachClass([&](auto type, const char* name) {
             using T = typename decltype(type)::Type;
-            int failures = 0;
+            constexpr int deepest = 3;
+            int number = 0;
+            int deep = 0;
+            Census held;
             for (const Samples::Sample& sample : Samples::samplesOf<T>()) {
-                for (const int cut : cutsOf(sample.xml)) {
-                    if (failures > 0 && !TestEffort::isNextTaken())
+                T whole = Generator::newObject<T>(true);
+                ElementTest::readError(whole, sample.xml);
+                if (sample.finish)
+                    sample.finish(whole); // what cannot be read
+                count(whole, held);
+                for (const Damage& damage : damagesOf(sample.xml)) {
+                    // What is deep inside is told by the class of the element there; here by some of it.
+                    if (damage.depth > deepest && deep++ % 8 != 0)
                         continue;
-                    const QString damaged = sample.xml.left(cut);
+                    if (number++ > 0 && !TestEffort::isNextTaken())
+                        continue;
                     for (const bool isNew : {true, false}) {
-                        T element = isNew ? Generator::newObject<T>(true) : generatedCommand<T>(cut);
-                        const QString error = ElementTest::readError(element, damaged);
-                        QVERIFY2(!error.isEmpty(), qPrintable(damaged));
-                        ++failures;
+                        T element = isNew ? Generator::newObject<T>(true) : generatedCommand<T>(number);
+                        const QString error = ElementTest::readError(element, damage.xml);
+                        if (error.isEmpty()) {
+                            QVERIFY2(damage.kind != Damage::Cut, qPrintable(damage.xml));
+                            (damage.kind == Damage::WrongText ? texts : elements).append(damage.tag);
+                        }
                         use(element);
                         // Again, and without a reset: what the failure left is no hindrance.
-                        ElementTest::readError(element, damaged);
+                        ElementTest::readError(element, damage.xml);
                         ElementTest::readError(element, sample.xml);
                         use(element);
                         const QString again = ElementTest::readError(element, sample.xml);
-                        QVERIFY2(again == sample.error, qPrintable(damaged + again));
+                        QVERIFY2(again == sample.error, qPrintable(damage.xml + again));
                         // An order of the best sensor coverage stays in its command.
                         if (!sample.finish && !std::is_same_v<T, XmlCmdCalc>)
                             QVERIFY2(ElementTest::written(element, Samples::tagOf(sample)) == sample.expected(), name);
                     }
                 }
             }
-            QVERIFY2(failures > 0, name);
+            verifyComplete(held, name); // each child occurs in some sample
         });
+        // The only damages that are none: texts of any kind, coordinates that are no numbers, and what is skipped.
+        verifyAccepted(texts,
+                       {QStringLiteral("ArvVersion"), QStringLiteral("CommandReference"), QStringLiteral("Comment"),
+                        QStringLiteral("ErrorMessage"), QStringLiteral("FirstName"), QStringLiteral("Latitude"),
+                        QStringLiteral("Longitude"), QStringLiteral("Name"), QStringLiteral("ORDER_ID"),
+                        QStringLiteral("ORDER_SENDER"), QStringLiteral("Reference"),
+                        QStringLiteral("ScreenshotFilename"), QStringLiteral("ScreenshotPath"),
+                        QStringLiteral("SecondName"), QStringLiteral("Text")});
+        verifyAccepted(elements, {QStringLiteral("Reference")});
     }
 
     void containers()
@@ -646,6 +711,18 @@ private:
     static void verifyComplete(const Census& census, const char* name)
     {
         QVERIFY2(census.missing().isEmpty(), qPrintable(QLatin1String(name) + QLatin1String(census.missing())));
+    }
+    /// The damages in just these elements were read without an error.
+    static void verifyAccepted(QStringList tags, const QStringList& expected)
+    {
+        tags.sort();
+        tags.removeDuplicates();
+        if (TestEffort::divisor() == 1) {
+            QCOMPARE(tags, expected);
+        } else {
+            for (const QString& tag : std::as_const(tags))
+                QVERIFY2(expected.contains(tag), qPrintable(tag));
+        }
     }
     /// Of the class that need not be a command, one that is.
     template <typename T>
