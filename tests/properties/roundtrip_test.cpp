@@ -485,6 +485,43 @@ void explain(const T& before, const T& after, Rejudged& reasons)
 
 // Which optional things are there
 
+QString noted(std::initializer_list<bool> areThere)
+{
+    QString pattern;
+    for (const bool isThere : areThere)
+        pattern += QLatin1Char(isThere ? '1' : '0');
+    return pattern;
+}
+
+// The values that may be absent, and what is not written; beside the parameters, which the description tells of.
+
+QString optionalValuesOf(const IXmlElement&)
+{
+    return {};
+}
+/// The envelope of a command.
+QString optionalValuesOf(const XmlCommand& command)
+{
+    return noted({command.hasOrderDef()});
+}
+QString optionalValuesOf(const XmlPropModelType& model)
+{
+    return noted({model.isCommand(), model.hasOrderDef()});
+}
+/// Random emitters, which may be told by halves.
+QString optionalValuesOf(const XmlFindSitesType& order)
+{
+    return noted({order.randNumber() >= 0, order.randDistri() != XmlFindSitesType::Undefined});
+}
+QString optionalValuesOf(const XmlInterlinkResultType& result)
+{
+    return noted({result.hasScreenshotFilename()});
+}
+QString optionalValuesOf(const XmlAutoRespType& response)
+{
+    return noted({response.hasErrorMessage(), response.hasEstimatedTime(), response.hasArvVersion()});
+}
+
 template <typename T>
 class Presence : public Visitor<Presence<T>> {
 public:
@@ -492,7 +529,7 @@ public:
         : m_object(object)
     {
     }
-    const QString& pattern() const { return m_pattern; }
+    QString pattern() const { return m_pattern + optionalValuesOf(m_object); }
 
     template <typename Get, typename Set>
     void child(const char* name, Get get, Set)
@@ -520,7 +557,7 @@ public:
     }
 
 private:
-    void note(bool isThere) { m_pattern += QLatin1Char(isThere ? '1' : '0'); }
+    void note(bool isThere) { m_pattern += noted({isThere}); }
 
     const T& m_object;
     QString m_pattern;
@@ -540,7 +577,7 @@ const std::map<QString, int>& patterns()
         {QStringLiteral("XmlStationType"), 16},
         {QStringLiteral("XmlReceiverType"), 2},
         {QStringLiteral("XmlDfType"), 2},
-        {QStringLiteral("XmlPropModelType"), 18},
+        {QStringLiteral("XmlPropModelType"), 2 * 9 * 2 * 2}, // a choice, parameters, a command, an envelope
         {QStringLiteral("XmlPropModelP1546Type"), 1024},
         {QStringLiteral("XmlPropModelP452Type"), 1024},
         {QStringLiteral("XmlPropModelP526Type"), 32},
@@ -553,13 +590,15 @@ const std::map<QString, int>& patterns()
         {QStringLiteral("XmlDetectProbType"), 2},
         {QStringLiteral("XmlDfCovType"), 2},
         {QStringLiteral("XmlBestSensorType"), 4},
-        {QStringLiteral("XmlFindSitesType"), 4},
-        {QStringLiteral("XmlCmdCalc"), 6},
-        {QStringLiteral("XmlCmdCreate"), 8},
-        {QStringLiteral("XmlCmdDelete"), 8},
+        {QStringLiteral("XmlFindSitesType"), 2 * 3 * 2}, // random emitters: both, a distribution, neither
+        {QStringLiteral("XmlCmdCalc"), 6 * 2},
+        {QStringLiteral("XmlCmdAdmin"), 2},
+        {QStringLiteral("XmlCmdCreate"), 8 * 2},
+        {QStringLiteral("XmlCmdDelete"), 8 * 2},
         {QStringLiteral("XmlCmdRoot"), 64},
         {QStringLiteral("XmlGridResultType"), 5},
-        {QStringLiteral("XmlAutoRespType"), 4},
+        {QStringLiteral("XmlInterlinkResultType"), 2},
+        {QStringLiteral("XmlAutoRespType"), 8 + 4}, // what goes with an error, and what goes alone
         {QStringLiteral("XmlResultObjectType"), 16},
         {QStringLiteral("XmlInteractRespType"), 3},
         {QStringLiteral("XmlRespRoot"), 8},

@@ -1119,8 +1119,7 @@ public:
     template <typename Get, typename Set>
     void unwritten(const char* name, Get get, Set set)
     {
-        if (m_random.oneIn(4))
-            child(name, get, set);
+        optional(name, get, set);
     }
     template <typename Get, typename Set, typename Rule>
     void value(const char*, Get, Set set, const Rule& rule)
@@ -1262,10 +1261,11 @@ inline void make(Making<ArvXml::XmlMapType>& making)
 inline void make(Making<ArvXml::XmlFindSitesType>& making)
 {
     visit<ArvXml::XmlFindSitesType>(making);
-    // One of them alone is not written.
-    if (making.random().oneIn(4))
+    // Random emitters, a distribution alone, which is not written, or neither.
+    const int told = making.take(3);
+    if (told > 0)
         making.object().setRandNumber(-1);
-    if (making.object().randNumber() == -1 && making.random().oneIn(2))
+    if (told > 1)
         making.object().setRandDistri(ArvXml::XmlFindSitesType::Undefined);
 }
 inline void make(Making<ArvXml::XmlGridResultType>& making)
