@@ -293,9 +293,11 @@ struct Flag : Exact {
 constexpr double infinity = std::numeric_limits<double>::infinity();
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
-inline OneOf versions()
+inline const OneOf& versions()
 {
-    return {{TestValues::text("1.0")}, {TestValues::text("2.0"), TestValues::text("1.0 "), QString()}};
+    static const OneOf texts = {{TestValues::text("1.0")},
+                                {TestValues::text("2.0"), TestValues::text("1.0 "), QString()}};
+    return texts;
 }
 /// A number that must be above the smallest and below the greatest one.
 inline Real normal(int decimals)
