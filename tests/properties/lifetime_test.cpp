@@ -67,7 +67,7 @@ const std::vector<int>& numbersOf()
             Generator::generate<T>(random, Validity::Valid);
             ways = std::max(ways, random.ways());
         }
-        const int step = ways > mostObjects ? ways / mostObjects | 1 : 1; // odd, so that it shows all that is in pairs
+        const int step = ways > mostObjects ? ways / mostObjects | 1 : 1; // odd, since most choices are between two
         std::vector<int> result;
         for (int number = 0; number < ways; number += step)
             result.push_back(number);
