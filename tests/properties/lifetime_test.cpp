@@ -421,7 +421,7 @@ std::vector<Damage> damagesOf(const QString& xml)
                 add(Damage::UnknownElement, middle, middle, unknown);
         }
         if (end > begin && end < xml.size() && !open.empty())
-            add(Damage::Cut, end, xml.size(), QString());
+            add(Damage::Cut, end, static_cast<int>(xml.size()), QString());
         begin = end;
         if (reader.isEndElement()) {
             open.pop_back();
