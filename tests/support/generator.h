@@ -1372,9 +1372,6 @@ inline void make(Making<ArvXml::XmlCmdRoot>& making)
     using namespace ArvXml;
     Random& random = making.random();
     XmlCmdRoot& root = making.object();
-    const auto repeated = [&](const char* xml) {
-        return QString::fromLatin1(xml).repeated(making.take(2) == 0 ? 0 : random.between(1, 2));
-    };
     QString model;
     if (making.take(2) == 1) {
         XmlPropModelType read(true);
@@ -1383,14 +1380,16 @@ inline void make(Making<ArvXml::XmlCmdRoot>& making)
                                          QStringLiteral("PropagationModel"));
         } while (!ElementTest::readError(read, model).isEmpty()); // until it can be read
     }
-    readInto(root,
-             QStringLiteral("<Commands>") + repeated("<Administrative><QueryVersion/></Administrative>")
-                 + repeated("<Create><Station><Name/><Position><Longitude/><Latitude/></Position></Station>"
-                            "<Reference/></Create>")
-                 + repeated("<Delete><DF><All/></DF><Reference/></Delete>") + model
-                 + repeated("<Calculate><InterlinkPlanning><FirstName/><SecondName/></InterlinkPlanning><Reference/>"
-                            "</Calculate>")
-                 + QStringLiteral("</Commands>"));
+    QString document;
+    const auto add = [&](const char* xml) {
+        document += QString::fromLatin1(xml).repeated(making.take(2) == 0 ? 0 : random.between(1, 2));
+    };
+    add("<Administrative><QueryVersion/></Administrative>");
+    add("<Create><Station><Name/><Position><Longitude/><Latitude/></Position></Station><Reference/></Create>");
+    add("<Delete><DF><All/></DF><Reference/></Delete>");
+    document += model;
+    add("<Calculate><InterlinkPlanning><FirstName/><SecondName/></InterlinkPlanning><Reference/></Calculate>");
+    readInto(root, QStringLiteral("<Commands>%1</Commands>").arg(document));
     if (making.take(2) == 1)
         root.setOrderDef(generate<XmlOrderDef>(random, making.validity()));
     const auto fill = [&](const auto& commands) {
