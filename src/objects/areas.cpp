@@ -23,8 +23,7 @@ Content XmlPlanArea::areaRectChild()
     Content content = readInsteadOf<&XmlPlanArea::m_areaRect, &XmlPlanArea::m_areaPoly>();
     content.isValid = [](const XmlElementBase& owner) {
         const auto& self = static_cast<const XmlPlanArea&>(owner);
-        return self.hasAreaRect() != self.hasAreaPoly() && isMemberValid(self.m_areaRect)
-            && isMemberValid(self.m_areaPoly);
+        return self.hasAreaRect() != self.hasAreaPoly() && isMemberValid(self.m_areaRect);
     };
     content.syntaxError = [](XmlElementBase& owner) {
         auto& self = static_cast<XmlPlanArea&>(owner);
@@ -37,7 +36,7 @@ Content XmlPlanArea::areaRectChild()
 
 Content XmlPlanArea::areaPolyChild()
 {
-    return unjudged(reportedApart(readInsteadOf<&XmlPlanArea::m_areaPoly, &XmlPlanArea::m_areaRect>()));
+    return reportedApart(readInsteadOf<&XmlPlanArea::m_areaPoly, &XmlPlanArea::m_areaRect>());
 }
 
 // A deployment area
