@@ -37,7 +37,7 @@ protected:
 
     /// The rectangle's child; it judges and reports the choice.
     static Content areaRectChild();
-    /// The polygon's child, judged with the rectangle's.
+    /// The polygon's child, reported with the rectangle's.
     static Content areaPolyChild();
 
     XmlObjNameType m_objName;
