@@ -607,7 +607,16 @@ void GridresultTest::refusedInResult_data()
     };
     const char own[] = "XmlGridResultType";
     row("no wrapper", "<G type=\"CEP\">\n</G>|", own, "Unexpected token \"EndElement\": G");
-    row("an empty wrapper", "<G type=\"CEP\">\n<CEP></CEP></G>|", own, "Unexpected token \"EndElement\": G");
+    // An empty wrapper is left by its end tag, but does not complete the result.
+    row("an empty FindPossibleSites", "<G type=\"FindSites\">\n<FindPossibleSites></FindPossibleSites></G>|", own,
+        "Unexpected token \"EndElement\": G");
+    row("an empty CEP", "<G type=\"CEP\">\n<CEP></CEP></G>|", own, "Unexpected token \"EndElement\": G");
+    row("an empty DetectionProbability", "<G type=\"DetectProb\">\n<DetectionProbability></DetectionProbability></G>|",
+        own, "Unexpected token \"EndElement\": G");
+    row("an empty DFcoverage", "<G type=\"DfCoverage\">\n<DFcoverage></DFcoverage></G>|", own,
+        "Unexpected token \"EndElement\": G");
+    row("an empty BestSensorCov", "<G type=\"BestSensorCov\">\n<BestSensorCov></BestSensorCov></G>|", own,
+        "Unexpected token \"EndElement\": G");
     row("another end tag", "<H type=\"CEP\">\n\n </H>|", own, "Unexpected token \"EndElement\": H");
     row("the wrapper in itself", "<G type=\"CEP\"><CEP><CEP>|</CEP></CEP></G>", own,
         "Unexpected token \"StartElement\": CEP");
