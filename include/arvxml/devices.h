@@ -57,9 +57,8 @@ protected:
 ///
 /// The two sets of four are read only with KFactors last (Noises, Gains, DBM, KFactors), but written
 /// with KFactors second: the library refuses what it wrote of them itself. Judging and writing do not
-/// look at the set, and nothing ties it to the category. Reading reuses
-/// the lists held and leaves those that the document lacks; no list is removed but by reset(). Another version than
-/// "1.0" is refused while reading.
+/// look at the set, and nothing ties it to the category. Reading reuses the lists held and leaves those that
+/// the document lacks; no list is removed but by reset(). Another version than "1.0" is refused while reading.
 class ARVXML_EXPORT XmlDeviceType : public XmlVersionedComposite {
 public:
     XmlDeviceType();

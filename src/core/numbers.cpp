@@ -17,7 +17,7 @@ constexpr std::array<quint64, 16> integerPowers = [] {
     return powers;
 }();
 
-/// These powers of ten are exact as real numbers, as four more would be: no plain number has more decimals.
+/// These powers of ten are exact as real numbers. There are as many as a plain number has decimals, and one.
 constexpr std::array<double, 19> exactPowers = [] {
     std::array<double, 19> powers{};
     powers[0] = 1;
