@@ -28,6 +28,11 @@ struct EnumerationRules;
 /// the list is set, read, reset or assigned to. After a move, an element is fit for reset(), assignment
 /// and destruction.
 ///
+/// Elements can be used by several threads: const operations on one that nobody changes meanwhile, and any operation on
+/// one that no other thread uses. They can be used to the last moment of a program, by the destructors of globals and
+/// by threads that outlive main(). When memory runs out, std::bad_alloc leaves an element that can be used, assigned
+/// to and destroyed.
+///
 /// An element does not know the tag under which it stands: whoever holds it passes the tag, so one
 /// type serves under several tags. No operation throws for bad input.
 class ARVXML_EXPORT IXmlElement {
@@ -78,10 +83,10 @@ public:
     /// An element that messages call \a className.
     explicit XmlElementBase(const QString& className);
     /// Copies take over the class name and the problems found.
-    XmlElementBase(const XmlElementBase& other);
+    XmlElementBase(const XmlElementBase& other) noexcept;
     ~XmlElementBase() override;
     /// Takes over the class name and the problems found.
-    XmlElementBase& operator=(const XmlElementBase& other);
+    XmlElementBase& operator=(const XmlElementBase& other) noexcept;
 
     void reset() override;
 

@@ -138,8 +138,6 @@ protected:
     bool isComplete(quint32 read) const override;
 
 private:
-    void sortIn(int firstNew);
-
     OwnedList<XmlNumCoordType, QVector<XmlNumCoordType*>> m_vertices;
 };
 

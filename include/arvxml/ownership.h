@@ -3,12 +3,14 @@
 #include <QtCore/QList>
 
 #include <memory>
+#include <type_traits>
 #include <utility>
 
 /// \file
 /// How an element holds its children. A child that is always present is a plain member of its own
 /// type; the two kinds below bring the copy rules for children that may be absent or repeated. With
-/// them, copying, assigning and destroying an element is the compiler's work.
+/// them, copying, assigning and destroying an element is the compiler's work. When memory runs out, a setter
+/// leaves what was held.
 
 namespace ArvXml {
 
@@ -40,7 +42,7 @@ public:
         return *this;
     }
     /// Moves into the child held if both sides hold one; otherwise takes what the other side has.
-    OptionalChild& operator=(OptionalChild&& other) noexcept
+    OptionalChild& operator=(OptionalChild&& other) noexcept(std::is_nothrow_move_assignable_v<T>)
     {
         if (isPresent() && other.isPresent())
             *m_child = std::move(*other.m_child); // the object held stays, as in every assignment
@@ -95,10 +97,7 @@ public:
     /// No items.
     OwnedList() = default;
     /// A copy of each item.
-    OwnedList(const OwnedList& other)
-        : m_items(copiesOf(other.m_items))
-    {
-    }
+    OwnedList(const OwnedList& other) { set(other.m_items); }
     /// Takes the items themselves.
     OwnedList(OwnedList&& other) noexcept { m_items.swap(other.m_items); }
     ~OwnedList() { qDeleteAll(m_items); }
@@ -128,15 +127,19 @@ public:
     /// the list held or hold items of it.
     void set(const Pointers& items)
     {
-        Pointers copies = copiesOf(items);
-        m_items.swap(copies);
-        qDeleteAll(copies);
+        OwnedList copies;
+        copies.m_items.reserve(items.size());
+        for (const T* item : items) {
+            if (item)
+                copies.append(*item);
+        }
+        m_items.swap(copies.m_items);
     }
 
     /// Appends a new item with its defaults.
-    T& append() { return adopt(new T()); }
+    T& append() { return adopt(std::make_unique<T>()); }
     /// Appends a copy of \a item, which may be an item of this list.
-    T& append(const T& item) { return adopt(new T(item)); }
+    T& append(const T& item) { return adopt(std::make_unique<T>(item)); }
 
     /// Destroys all items.
     void clear()
@@ -150,21 +153,10 @@ public:
     Pointers& order() { return m_items; }
 
 private:
-    static Pointers copiesOf(const Pointers& items)
+    T& adopt(std::unique_ptr<T> item)
     {
-        Pointers copies;
-        copies.reserve(items.size());
-        for (const T* item : items) {
-            if (item)
-                copies.append(new T(*item));
-        }
-        return copies;
-    }
-
-    T& adopt(T* item)
-    {
-        m_items.append(item);
-        return *item;
+        m_items.append(item.get());
+        return *item.release();
     }
 
     Pointers m_items;

@@ -20,10 +20,6 @@ class ParameterTable;
 /// stored while reading, and reported afterwards. A set has no attributes and no version.
 class ARVXML_EXPORT XmlParameterSet : public XmlElement {
 public:
-    /// Copies take over all values and flags.
-    XmlParameterSet(const XmlParameterSet&) = default;
-    /// Takes over all values and flags.
-    XmlParameterSet& operator=(const XmlParameterSet&) = default;
     ~XmlParameterSet() override = default;
 
     void processXml(QXmlStreamReader& reader, const QString& tagName) override;
@@ -33,6 +29,11 @@ public:
 
 protected:
     using XmlElement::XmlElement;
+    // Protected: a set is no good with the values of a set of another kind.
+    XmlParameterSet(const XmlParameterSet&) = default;
+    XmlParameterSet& operator=(const XmlParameterSet&) = default;
+    /// Exchanges all values and flags, so that both sides keep a value for each parameter.
+    XmlParameterSet& operator=(XmlParameterSet&& other) noexcept;
 
     void addErrors() override;
     /// The set's parameters, in the order of reading and writing.

@@ -51,8 +51,8 @@ public:
     /// When the response was made, attribute "timestamp": in ISO 8601 on the wire, to the second; the local time of
     /// construction by default. A text of another form is stored as an invalid time, and an invalid time
     /// is written as an empty text.
-    const QDateTime& timestamp() const;
-    void setTimestamp(const QDateTime& timestamp);
+    const QDateTime& timestamp() const { return m_timestamp; }
+    void setTimestamp(const QDateTime& timestamp) { m_timestamp = timestamp; }
 
     bool hasOrderDef() const { return m_orderDef.isPresent(); }
     /// The envelope of the order answered, tag "ORDER_DEF"; null when absent. Read at any place, written first.
@@ -83,10 +83,7 @@ private:
 
     RespType m_type = RespUndefined;
     bool m_final = true;
-    // The moment of construction is held in UTC and becomes a local time when it is first asked for:
-    // that takes longer than reading a short response.
-    mutable QDateTime m_timestamp;
-    mutable bool m_isMade = true;
+    QDateTime m_timestamp;
     OptionalChild<XmlOrderDef> m_orderDef;
     OptionalChild<XmlAutoRespType> m_automatic;
     OptionalChild<XmlInteractRespType> m_interactive;

@@ -12,7 +12,7 @@ XmlCepProbType::XmlCepProbType()
 
 const EnumerationRules& XmlCepProbType::rules() const
 {
-    static const EnumerationRules rules = {
+    static const NeverDestroyed<EnumerationRules> rules = EnumerationRules{
         EnumerationTexts({"50", "66", "75", "90", "95"}),
         "Illegal enum value", // no full stop here
         "Illegal probability value.",
@@ -27,13 +27,14 @@ XmlCepType::XmlCepType()
 
 const ElementForm& XmlCepType::form() const
 {
-    static const ElementForm form = ElementForm(compositeWording)
-                                        .sequence({
-                                            required("UseDFs", child<&XmlCepType::m_sensors>()),
-                                            required("AOIs", child<&XmlCepType::m_areas>()),
-                                            optional("Probability", renewed<&XmlCepType::m_probability>()),
-                                            optional("ResultGrid", renewed<&XmlCepType::m_resultGrid>()),
-                                        });
+    static const NeverDestroyed<ElementForm> form =
+        ElementForm(compositeWording)
+            .sequence({
+                required("UseDFs", child<&XmlCepType::m_sensors>()),
+                required("AOIs", child<&XmlCepType::m_areas>()),
+                optional("Probability", renewed<&XmlCepType::m_probability>()),
+                optional("ResultGrid", renewed<&XmlCepType::m_resultGrid>()),
+            });
     return form;
 }
 
@@ -44,12 +45,13 @@ XmlDetectProbType::XmlDetectProbType()
 
 const ElementForm& XmlDetectProbType::form() const
 {
-    static const ElementForm form = ElementForm(compositeWording)
-                                        .sequence({
-                                            required("UseRxDFs", child<&XmlDetectProbType::m_sensors>()),
-                                            required("AOIs", child<&XmlDetectProbType::m_areas>()),
-                                            optional("ResultGrid", renewed<&XmlDetectProbType::m_resultGrid>()),
-                                        });
+    static const NeverDestroyed<ElementForm> form =
+        ElementForm(compositeWording)
+            .sequence({
+                required("UseRxDFs", child<&XmlDetectProbType::m_sensors>()),
+                required("AOIs", child<&XmlDetectProbType::m_areas>()),
+                optional("ResultGrid", renewed<&XmlDetectProbType::m_resultGrid>()),
+            });
     return form;
 }
 
@@ -60,12 +62,13 @@ XmlDfCovType::XmlDfCovType()
 
 const ElementForm& XmlDfCovType::form() const
 {
-    static const ElementForm form = ElementForm(compositeWording)
-                                        .sequence({
-                                            required("UseDFs", child<&XmlDfCovType::m_sensors>()),
-                                            required("AOIs", child<&XmlDfCovType::m_areas>()),
-                                            optional("ResultGrid", renewed<&XmlDfCovType::m_resultGrid>()),
-                                        });
+    static const NeverDestroyed<ElementForm> form =
+        ElementForm(compositeWording)
+            .sequence({
+                required("UseDFs", child<&XmlDfCovType::m_sensors>()),
+                required("AOIs", child<&XmlDfCovType::m_areas>()),
+                optional("ResultGrid", renewed<&XmlDfCovType::m_resultGrid>()),
+            });
     return form;
 }
 
@@ -76,13 +79,14 @@ XmlBestSensorType::XmlBestSensorType()
 
 const ElementForm& XmlBestSensorType::form() const
 {
-    static const ElementForm form = ElementForm(compositeWording)
-                                        .sequence({
-                                            required("UseRxDFs", child<&XmlBestSensorType::m_sensors>()),
-                                            required("AOIs", child<&XmlBestSensorType::m_areas>()),
-                                            optional("ResultGrid", renewed<&XmlBestSensorType::m_resultGrid>()),
-                                            optional("Comment", renewed<&XmlBestSensorType::m_comment>()),
-                                        });
+    static const NeverDestroyed<ElementForm> form =
+        ElementForm(compositeWording)
+            .sequence({
+                required("UseRxDFs", child<&XmlBestSensorType::m_sensors>()),
+                required("AOIs", child<&XmlBestSensorType::m_areas>()),
+                optional("ResultGrid", renewed<&XmlBestSensorType::m_resultGrid>()),
+                optional("Comment", renewed<&XmlBestSensorType::m_comment>()),
+            });
     return form;
 }
 

@@ -11,7 +11,7 @@ XmlResultGridType::XmlResultGridType()
 
 const EnumerationRules& XmlResultGridType::rules() const
 {
-    static const EnumerationRules rules = {
+    static const NeverDestroyed<EnumerationRules> rules = EnumerationRules{
         EnumerationTexts({"10", "50", "100", "200", "500", "1000"}),
         "Illegal enum value.",
         "Illegal grid size.",

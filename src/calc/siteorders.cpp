@@ -14,7 +14,7 @@ constexpr int maxNameLength = 128;
 
 const EnumerationTexts& distributionTexts()
 {
-    static const EnumerationTexts texts({"Random", "Grid"});
+    static const NeverDestroyed<EnumerationTexts> texts = EnumerationTexts({"Random", "Grid"});
     return texts;
 }
 
@@ -59,7 +59,7 @@ const ElementForm& XmlFindSitesType::form() const
     };
     // "Number" and "Distribution" stand inside "RandomEmitters", whose tags this element reads and
     // writes itself. While it is open the children after it are let through.
-    static const ElementForm form =
+    static const NeverDestroyed<ElementForm> form =
         ElementForm(compositeWording)
             .children({
                 {"UseKnownEmitters", Known, Known | RandomEmitters | Areas | ResultGrid,
@@ -151,11 +151,12 @@ XmlInterlinkPlanningType::XmlInterlinkPlanningType()
 const ElementForm& XmlInterlinkPlanningType::form() const
 {
     using Self = XmlInterlinkPlanningType;
-    static const ElementForm form = ElementForm(compositeWording)
-                                        .sequence({
-                                            required("FirstName", text<Self, takeFirstName, &Self::firstName>()),
-                                            required("SecondName", text<Self, takeSecondName, &Self::secondName>()),
-                                        });
+    static const NeverDestroyed<ElementForm> form =
+        ElementForm(compositeWording)
+            .sequence({
+                required("FirstName", text<Self, takeFirstName, &Self::firstName>()),
+                required("SecondName", text<Self, takeSecondName, &Self::secondName>()),
+            });
     return form;
 }
 

@@ -14,13 +14,14 @@ const ElementForm& XmlCmdAdmin::form() const
     using Self = XmlCmdAdmin;
     enum : Marks { Query = 1 };
     // The query counts from its end tag on; what stands inside it is read as if beside it.
-    static const ElementForm form = ElementForm(listWording)
-                                        .children({
-                                            {"QueryVersion", 0, 0, writtenBy<&Self::writeQuery>()},
-                                            {"Reference", 0, 0, child<&Self::m_reference>()},
-                                        })
-                                        .innerEnds({{"QueryVersion", 0, 0, Query, callOwner<&Self::setQueryVersion>}})
-                                        .completeWith(Query);
+    static const NeverDestroyed<ElementForm> form =
+        ElementForm(listWording)
+            .children({
+                {"QueryVersion", 0, 0, writtenBy<&Self::writeQuery>()},
+                {"Reference", 0, 0, child<&Self::m_reference>()},
+            })
+            .innerEnds({{"QueryVersion", 0, 0, Query, callOwner<&Self::setQueryVersion>}})
+            .completeWith(Query);
     return form;
 }
 

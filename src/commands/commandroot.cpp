@@ -43,21 +43,17 @@ Content XmlCmdRoot::propModelCommand()
 const ElementForm& XmlCmdRoot::form() const
 {
     using Self = XmlCmdRoot;
-    enum : Marks { Envelope = 1, Administrative = 2, Create = 4, Delete = 8, Model = 16, Calculate = 32 };
-    static const ElementForm form =
+    static const NeverDestroyed<ElementForm> form =
         ElementForm(compositeWording)
-            .children({
-                {"ORDER_DEF", Envelope, Envelope | Administrative | Create | Delete | Model | Calculate,
-                 renewed<&Self::m_orderDef>()},
-                {"Administrative", Administrative, Create | Delete | Model | Calculate,
-                 commands<&Self::m_administrative>()},
-                {"Create", Create, Delete | Model | Calculate, commands<&Self::m_creates>()},
+            .sequence({
+                optional("ORDER_DEF", renewed<&Self::m_orderDef>()),
+                repeated("Administrative", commands<&Self::m_administrative>()),
+                repeated("Create", commands<&Self::m_creates>()),
                 // Delete commands are neither judged nor reported here.
-                {"Delete", Delete, Model | Calculate, unjudged(reportedApart(commands<&Self::m_deletes>()))},
-                {"PropagationModel", Model, Model | Calculate, propModelCommand()},
-                {"Calculate", Calculate, 0, commands<&Self::m_calculations>()},
-            })
-            .completeWith(0);
+                repeated("Delete", unjudged(reportedApart(commands<&Self::m_deletes>()))),
+                optional("PropagationModel", propModelCommand()),
+                repeated("Calculate", commands<&Self::m_calculations>()),
+            });
     return form;
 }
 

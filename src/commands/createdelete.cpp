@@ -4,13 +4,6 @@
 
 namespace ArvXml {
 
-namespace {
-
-// Both commands: one object, then the reference. A reference may come first, but no object after it.
-enum CommandMarks : Marks { Object = 1, Reference = 2 };
-
-} // namespace
-
 quint32 XmlObjectCommand::openElement(ElementReader& in)
 {
     reset();
@@ -25,20 +18,22 @@ XmlCmdCreate::XmlCmdCreate()
 const ElementForm& XmlCmdCreate::form() const
 {
     using Self = XmlCmdCreate;
-    static const ElementForm form =
+    // In both commands the reference may come first, but then no object is taken any more, nor the end tag.
+    static const NeverDestroyed<ElementForm> form =
         ElementForm(listWording)
-            .children({
-                {"DeploymentArea", Object, Object | Reference, renewed<&Self::m_deploymentArea>()},
-                {"AOI", Object, Object | Reference, renewed<&Self::m_aoi>()},
-                {"Emitter", Object, Object | Reference, renewed<&Self::m_emitter>()},
-                {"Receiver", Object, Object | Reference, renewed<&Self::m_receiver>()},
-                {"DF", Object, Object | Reference, renewed<&Self::m_df>()},
-                {"Station", Object, Object | Reference, renewed<&Self::m_station>()},
-                {"Path", Object, Object | Reference, writtenAs("SignalPath", renewed<&Self::m_signalPath>())},
-                {"Device", Object, Object | Reference, renewed<&Self::m_device>()},
-                {"Reference", Reference, Reference, referenceChild()},
-            })
-            .completeWith(Object | Reference);
+            .sequence({
+                oneOf({
+                    {"DeploymentArea", renewed<&Self::m_deploymentArea>()},
+                    {"AOI", renewed<&Self::m_aoi>()},
+                    {"Emitter", renewed<&Self::m_emitter>()},
+                    {"Receiver", renewed<&Self::m_receiver>()},
+                    {"DF", renewed<&Self::m_df>()},
+                    {"Station", renewed<&Self::m_station>()},
+                    {"Path", writtenAs("SignalPath", renewed<&Self::m_signalPath>())},
+                    {"Device", renewed<&Self::m_device>()},
+                }),
+                required("Reference", referenceChild()),
+            });
     return form;
 }
 
@@ -50,20 +45,20 @@ XmlCmdDelete::XmlCmdDelete()
 const ElementForm& XmlCmdDelete::form() const
 {
     using Self = XmlCmdDelete;
-    static const ElementForm form =
-        ElementForm(listWording)
-            .children({
-                {"DeploymentArea", Object, Object | Reference, renewed<&Self::m_deploymentArea>()},
-                {"AOI", Object, Object | Reference, renewed<&Self::m_aoi>()},
-                {"Emitter", Object, Object | Reference, renewed<&Self::m_emitter>()},
-                {"Receiver", Object, Object | Reference, renewed<&Self::m_receiver>()},
-                {"DF", Object, Object | Reference, renewed<&Self::m_df>()},
-                {"Device", Object, Object | Reference, renewed<&Self::m_device>()},
-                {"SignalPath", Object, Object | Reference, renewed<&Self::m_signalPath>()},
-                {"Station", Object, Object | Reference, renewed<&Self::m_station>()},
-                {"Reference", Reference, Reference, referenceChild()},
-            })
-            .completeWith(Object | Reference);
+    static const NeverDestroyed<ElementForm> form = ElementForm(listWording)
+                                                        .sequence({
+                                                            oneOf({
+                                                                {"DeploymentArea", renewed<&Self::m_deploymentArea>()},
+                                                                {"AOI", renewed<&Self::m_aoi>()},
+                                                                {"Emitter", renewed<&Self::m_emitter>()},
+                                                                {"Receiver", renewed<&Self::m_receiver>()},
+                                                                {"DF", renewed<&Self::m_df>()},
+                                                                {"Device", renewed<&Self::m_device>()},
+                                                                {"SignalPath", renewed<&Self::m_signalPath>()},
+                                                                {"Station", renewed<&Self::m_station>()},
+                                                            }),
+                                                            required("Reference", referenceChild()),
+                                                        });
     return form;
 }
 

@@ -27,9 +27,9 @@ XmlElementBase::XmlElementBase(const QString& className)
 {
 }
 
-XmlElementBase::XmlElementBase(const XmlElementBase& other) = default;
+XmlElementBase::XmlElementBase(const XmlElementBase& other) noexcept = default;
 XmlElementBase::~XmlElementBase() = default;
-XmlElementBase& XmlElementBase::operator=(const XmlElementBase& other) = default;
+XmlElementBase& XmlElementBase::operator=(const XmlElementBase& other) noexcept = default;
 
 void XmlElementBase::reset()
 {
@@ -38,7 +38,7 @@ void XmlElementBase::reset()
 
 void XmlElementBase::setReaderError(QXmlStreamReader& reader, const QString& message)
 {
-    static const QString errorTemplate = QStringLiteral("in %3 (line %1, column %2): %4.");
+    const QString errorTemplate = QStringLiteral("in %3 (line %1, column %2): %4.");
     reader.raiseError(errorTemplate.arg(reader.lineNumber(), 0, 10, QLatin1Char(' '))
                           .arg(reader.columnNumber(), 0, 10, QLatin1Char(' '))
                           .arg(m_className, message));
@@ -60,7 +60,7 @@ void XmlElementBase::clearSyntaxError()
 
 QString XmlElementBase::mySyntaxError()
 {
-    static const QString blockTemplate = QStringLiteral("+++ in %1 Begin:\n%2\n--- in %1 End");
+    const QString blockTemplate = QStringLiteral("+++ in %1 Begin:\n%2\n--- in %1 End");
     return m_syntaxError.isEmpty() ? QString() : blockTemplate.arg(m_className, m_syntaxError);
 }
 

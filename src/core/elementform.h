@@ -1,8 +1,10 @@
 #pragma once
 
 #include "core/content.h"
+#include "core/neverdestroyed.h"
 
 #include <initializer_list>
+#include <utility>
 #include <vector>
 
 /// \file
@@ -58,19 +60,39 @@ struct InnerEnd {
     }
 };
 
-/// A child of a plain sequence.
-struct Step {
-    const char* tag;
-    bool required;
-    Content content;
+/// A particle of a content model: a child, or a choice between several, with how often it may come.
+struct Particle {
+    struct Child {
+        const char* tag;
+        Content content;
+    };
+
+    std::vector<Child> alternatives; ///< which share one place: only one of them comes
+    bool isRequired;
+    bool isRepeated;
 };
-inline Step required(const char* tag, const Content& content)
+inline Particle required(const char* tag, const Content& content)
 {
-    return {tag, true, content};
+    return {{{tag, content}}, true, false};
 }
-inline Step optional(const char* tag, const Content& content)
+inline Particle optional(const char* tag, const Content& content)
 {
-    return {tag, false, content};
+    return {{{tag, content}}, false, false};
+}
+/// Any number of them, none included.
+inline Particle repeated(const char* tag, const Content& content)
+{
+    return {{{tag, content}}, false, true};
+}
+/// One of these children, and only one.
+inline Particle oneOf(std::vector<Particle::Child> alternatives)
+{
+    return {std::move(alternatives), true, false};
+}
+inline Particle optional(Particle particle)
+{
+    particle.isRequired = false;
+    return particle;
 }
 
 /// The wire form of an element. Built once for each class, by chained calls.
@@ -91,9 +113,17 @@ public:
         return *this;
     }
 
-    /// Children that come in this order, each at most once: a child is refused once it or one that
-    /// follows it has been read. The end tag needs the required ones.
-    ElementForm& sequence(std::initializer_list<Step> steps);
+    /// Children that come in this order, each at most once but for the repeated: a child is refused once it or one
+    /// after it has been read. The end tag needs the required ones; so a required child may be passed over at first,
+    /// but the end tag is refused then.
+    ElementForm& sequence(std::initializer_list<Particle> particles);
+
+    /// The same, but a child is refused, too, until the required ones before it have been read. Given again, the
+    /// particles follow those before.
+    ElementForm& strictSequence(std::initializer_list<Particle> particles);
+
+    /// A child that may come at any place, any number of times.
+    ElementForm& anywhere(const char* tag, const Content& content);
 
     /// At least one \a tag, any number of them. \a tooFew is the problem of an empty list.
     ElementForm& listOf(const char* tag, const Content& content, const char* tooFew);
@@ -104,6 +134,12 @@ public:
     ElementForm& completeWhen(Marks among, Marks marks)
     {
         m_completions.push_back({among, marks});
+        return *this;
+    }
+    /// The end tag is refused, whatever has been read.
+    ElementForm& neverComplete()
+    {
+        m_completions.clear();
         return *this;
     }
     /// Called when the element's own end tag has been accepted.
@@ -143,8 +179,12 @@ private:
         Marks marks;
     };
 
+    void addParticle(const Particle& particle, Marks needed);
+
     const Wording& m_wording;
     std::vector<Row> m_rows;
+    Marks m_nextMark = 1;          ///< of the particles
+    Marks m_requiredParticles = 0; ///< all marks of those
     std::vector<Completion> m_completions;
     std::vector<InnerEnd> m_innerEnds;
     CharactersHandler m_onCharacters = [](XmlElementBase&, ElementReader&, Marks) { return Marks(0); };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/neverdestroyed.h"
 #include "core/texts.h"
 
 #include <QtCore/QString>

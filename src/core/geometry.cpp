@@ -4,8 +4,7 @@
 #include "core/numbers.h"
 
 #include <algorithm>
-#include <limits>
-#include <vector>
+#include <utility>
 
 namespace ArvXml {
 
@@ -61,7 +60,7 @@ XmlCoordinateType::XmlCoordinateType()
 
 const ElementForm& XmlCoordinateType::form() const
 {
-    static const ElementForm form =
+    static const NeverDestroyed<ElementForm> form =
         ElementForm(compositeWording)
             .sequence({
                 required("Longitude", text<XmlCoordinateType, takeLongitude, longitudeText>()),
@@ -146,16 +145,48 @@ XmlAreaRectType::XmlAreaRectType()
 
 const ElementForm& XmlAreaRectType::form() const
 {
-    static const ElementForm form = ElementForm(compositeWording)
-                                        .sequence({
-                                            required("UpperLeft", child<&XmlAreaRectType::m_upperLeft>()),
-                                            required("LowerRight", child<&XmlAreaRectType::m_lowerRight>()),
-                                        })
-                                        .refusesOtherVersions();
+    static const NeverDestroyed<ElementForm> form =
+        ElementForm(compositeWording)
+            .sequence({
+                required("UpperLeft", child<&XmlAreaRectType::m_upperLeft>()),
+                required("LowerRight", child<&XmlAreaRectType::m_lowerRight>()),
+            })
+            .refusesOtherVersions();
     return form;
 }
 
 // A polygon
+
+namespace {
+
+bool comesBefore(const XmlNumCoordType* a, const XmlNumCoordType* b)
+{
+    return a->number() < b->number();
+}
+
+/// Moves each vertex from \a firstNew on before the first one with a greater number, as if each had been inserted there
+/// on its own, but all at once. It gets by without memory, so that it cannot fail.
+void sortIn(QVector<XmlNumCoordType*>& vertices, int firstNew)
+{
+    if (firstNew == vertices.size() || std::is_sorted(vertices.cbegin(), vertices.cend(), comesBefore))
+        return;
+    using Place = QVector<XmlNumCoordType*>::iterator; // a pointer with Qt 5, a class with Qt 6
+    const Place middle = vertices.begin() + firstNew;
+    std::stable_sort(middle, vertices.end(), comesBefore);
+    if (std::is_sorted(vertices.begin(), middle, comesBefore)) {
+        std::inplace_merge(vertices.begin(), middle, vertices.end(), comesBefore);
+        return;
+    }
+    // Numbers of vertices held before have been changed, which does not move those.
+    Place place = vertices.begin();
+    for (Place next = middle; next != vertices.end(); ++next) {
+        place = std::find_if(place, next, [next](const XmlNumCoordType* held) { return comesBefore(*next, held); });
+        std::rotate(place, next, next + 1);
+        ++place;
+    }
+}
+
+} // namespace
 
 XmlAreaPolyType::XmlAreaPolyType()
     : XmlVersionedComposite(QStringLiteral("XmlAreaPolyType"))
@@ -164,10 +195,10 @@ XmlAreaPolyType::XmlAreaPolyType()
 
 const ElementForm& XmlAreaPolyType::form() const
 {
-    enum : Marks { Vertex = 1 };
-    static const ElementForm form = ElementForm(compositeWording)
-                                        .children({{"Vertex", Vertex, 0, items<&XmlAreaPolyType::m_vertices>()}})
-                                        .refusesOtherVersions();
+    static const NeverDestroyed<ElementForm> form =
+        ElementForm(compositeWording)
+            .sequence({repeated("Vertex", items<&XmlAreaPolyType::m_vertices>())})
+            .refusesOtherVersions();
     return form;
 }
 
@@ -178,41 +209,21 @@ bool XmlAreaPolyType::isComplete(quint32) const
 
 void XmlAreaPolyType::processXml(QXmlStreamReader& reader, const QString& tagName)
 {
-    const int held = m_vertices.size();
+    struct SortsInTheEnd { // however the reading ends
+        QVector<XmlNumCoordType*>& vertices;
+        const int held = static_cast<int>(vertices.size());
+        ~SortsInTheEnd() { sortIn(vertices, held); }
+    };
+    const SortsInTheEnd sorter{m_vertices.order()};
     XmlVersionedComposite::processXml(reader, tagName);
-    sortIn(held);
 }
 
 void XmlAreaPolyType::setVertices(const QVector<XmlNumCoordType*>& vertices)
 {
-    m_vertices.set(vertices);
-    sortIn(0);
-}
-
-/// Moves each vertex from \a firstNew on before the first one with a greater number, as if each had
-/// been inserted there on its own, but all at once: a vertex goes by its number, one held before by
-/// the greatest number up to it.
-void XmlAreaPolyType::sortIn(int firstNew)
-{
-    struct Place {
-        int number;
-        XmlNumCoordType* vertex;
-    };
-    QVector<XmlNumCoordType*>& vertices = m_vertices.order();
-    std::vector<Place> places;
-    places.reserve(static_cast<std::size_t>(vertices.size()));
-    int greatest = std::numeric_limits<int>::min();
-    for (XmlNumCoordType* vertex : qAsConst(vertices)) {
-        const bool isNew = static_cast<int>(places.size()) >= firstNew;
-        greatest = std::max(greatest, vertex->number());
-        places.push_back({isNew ? vertex->number() : greatest, vertex});
-    }
-
-    const auto comesBefore = [](const Place& a, const Place& b) { return a.number < b.number; };
-    if (std::is_sorted(places.cbegin(), places.cend(), comesBefore))
-        return;
-    std::stable_sort(places.begin(), places.end(), comesBefore);
-    std::transform(places.cbegin(), places.cend(), vertices.begin(), [](const Place& place) { return place.vertex; });
+    OwnedList<XmlNumCoordType, QVector<XmlNumCoordType*>> copies;
+    copies.set(vertices);
+    sortIn(copies.order(), 0);
+    m_vertices = std::move(copies);
 }
 
 bool XmlAreaPolyType::isValid() const

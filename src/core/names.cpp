@@ -144,15 +144,16 @@ XmlNameAllType::XmlNameAllType()
 const ElementForm& XmlNameAllType::form() const
 {
     enum : Marks { Choice = 1 };
-    static const ElementForm form = ElementForm(listWording)
-                                        .children({
-                                            {"All", Choice, Choice, called<&XmlNameAllType::removeNames>()},
-                                            {"Name", Choice, Choice, reused<&XmlNameAllType::m_objName>()},
-                                            {"Reference", 0, 0, skipped()},
-                                        })
-                                        .completeWith(Choice)
-                                        .whenComplete(callOwner<&XmlNameAllType::setInitialised>)
-                                        .innerEnds({{"All", 0, 0, 0}, {"Reference", 0, 0, 0}});
+    static const NeverDestroyed<ElementForm> form =
+        ElementForm(listWording)
+            .children({
+                {"All", Choice, Choice, called<&XmlNameAllType::removeNames>()},
+                {"Name", Choice, Choice, reused<&XmlNameAllType::m_objName>()},
+                {"Reference", 0, 0, skipped()},
+            })
+            .completeWith(Choice)
+            .whenComplete(callOwner<&XmlNameAllType::setInitialised>)
+            .innerEnds({{"All", 0, 0, 0}, {"Reference", 0, 0, 0}});
     return form;
 }
 
@@ -181,15 +182,16 @@ XmlNameAllMultiType::XmlNameAllMultiType()
 const ElementForm& XmlNameAllMultiType::form() const
 {
     enum : Marks { All = 1, Name = 2 };
-    static const ElementForm form = ElementForm(listWording)
-                                        .children({
-                                            {"All", All, All | Name, called<&XmlNameAllMultiType::removeNames>()},
-                                            {"Name", Name, All, items<&XmlNameAllMultiType::m_objNames>()},
-                                        })
-                                        .completeWith(All)
-                                        .completeWith(Name)
-                                        .whenComplete(callOwner<&XmlNameAllMultiType::setInitialised>)
-                                        .innerEnds({{"All", 0, 0, 0}});
+    static const NeverDestroyed<ElementForm> form =
+        ElementForm(listWording)
+            .children({
+                {"All", All, All | Name, called<&XmlNameAllMultiType::removeNames>()},
+                {"Name", Name, All, items<&XmlNameAllMultiType::m_objNames>()},
+            })
+            .completeWith(All)
+            .completeWith(Name)
+            .whenComplete(callOwner<&XmlNameAllMultiType::setInitialised>)
+            .innerEnds({{"All", 0, 0, 0}});
     return form;
 }
 

@@ -2,20 +2,14 @@
 
 #include <algorithm>
 #include <array>
+#include <cfloat>
 #include <cmath>
 #include <cstring>
+#include <limits>
 
 namespace ArvXml {
 
 namespace {
-
-constexpr std::array<quint64, 16> integerPowers = [] {
-    std::array<quint64, 16> powers{};
-    powers[0] = 1;
-    for (std::size_t i = 1; i < powers.size(); ++i)
-        powers[i] = 10 * powers[i - 1];
-    return powers;
-}();
 
 /// These powers of ten are exact as real numbers. There are as many as a plain number has decimals, and one.
 constexpr std::array<double, 19> exactPowers = [] {
@@ -28,6 +22,14 @@ constexpr std::array<double, 19> exactPowers = [] {
 
 #ifdef __SIZEOF_INT128__
 __extension__ using Wide = unsigned __int128;
+
+constexpr std::array<quint64, 16> integerPowers = [] {
+    std::array<quint64, 16> powers{};
+    powers[0] = 1;
+    for (std::size_t i = 1; i < powers.size(); ++i)
+        powers[i] = 10 * powers[i - 1];
+    return powers;
+}();
 #endif
 
 constexpr int mantissaBits = 53;
@@ -59,9 +61,27 @@ const QChar* takeDigits(const QChar* at, const QChar* end, quint64& number)
     return at;
 }
 
+/// Whether a quotient of two doubles is rounded once, to the nearest double. Where doubles are evaluated in longer
+/// registers (x87), it is rounded twice. Where the program has set another rounding mode, the two sides differ.
+bool roundsToNearest()
+{
+#if FLT_EVAL_METHOD == 0
+    static volatile float tiny = std::numeric_limits<float>::min(); // volatile: computed as the program runs
+    const float little = tiny;
+    return 1.0F + little == 1.0F - little;
+#else
+    return false;
+#endif
+}
+
 /// \a digits divided by a power of ten, one of exactPowers, rounded to nearest, half to even.
 std::optional<double> quotient(quint64 digits, std::size_t decimals)
 {
+    // An integer is exact, whatever the machine.
+    if (decimals == 0 && digits <= exactIntegers)
+        return static_cast<double>(digits);
+    if (!roundsToNearest())
+        return {};
     // Both exact as real numbers: the division rounds once, and so correctly.
     if (digits <= exactIntegers)
         return static_cast<double>(digits) / exactPowers[decimals];
@@ -197,14 +217,11 @@ void writeDigits(QChar* end, quint64 number, int count)
     }
 }
 
-/// The memory of the text serves for the next number of the thread, unless somebody still holds the text by then:
-/// that number gets memory of its own.
 QString text(bool isNegative, Decimal decimal, int decimals)
 {
-    thread_local QString text;
     const int integerDigits = digitsOf(decimal.integer);
     const int length = (isNegative ? 1 : 0) + integerDigits + (decimals > 0 ? 1 + decimals : 0);
-    text.resize(length);
+    QString text(length, Qt::Uninitialized);
     QChar* const begin = text.data();
     QChar* const end = begin + length;
     if (isNegative)

@@ -1,6 +1,7 @@
 #include "arvxml/orderdef.h"
 
 #include "core/elementform.h"
+#include "core/times.h"
 
 #include <QtCore/QDateTime>
 #include <QtNetwork/QHostInfo>
@@ -11,7 +12,7 @@ namespace ArvXml {
 
 namespace {
 
-const QLatin1String idPrefix("ARV");
+constexpr QLatin1String idPrefix("ARV", 3);
 constexpr int idDigits = 15;
 
 bool isOrderId(const QString& text)
@@ -29,7 +30,7 @@ XmlOrderDef::XmlOrderDef()
 
 const ElementForm& XmlOrderDef::form() const
 {
-    static const ElementForm form =
+    static const NeverDestroyed<ElementForm> form =
         ElementForm(compositeWording)
             .sequence({
                 required("ORDER_ID", text<XmlOrderDef, &XmlOrderDef::setOrderId, &XmlOrderDef::orderId>()),
@@ -41,8 +42,7 @@ const ElementForm& XmlOrderDef::form() const
 XmlOrderDef XmlOrderDef::createValidInstance()
 {
     XmlOrderDef order;
-    const QString now = QDateTime::currentDateTime().toString(QStringLiteral("yyMMddhhmmsszzz"));
-    order.setOrderId(idPrefix + now);
+    order.setOrderId(idPrefix + timeDigits(QDateTime::currentDateTime()));
     order.setOrderSender(QHostInfo::localHostName());
     return order;
 }

@@ -34,18 +34,18 @@ bool isNothing(double)
 /// A unit of frequency: what a number in it is multiplied by to give MHz, and what MHz are
 /// multiplied by to give it.
 struct FrequencyUnit {
-    QString unit;
+    QStringView unit;
     double toMHz;
     double fromMHz;
 };
 
 const FrequencyUnit* frequencyUnit(const QString& unit)
 {
-    static const FrequencyUnit units[] = {
-        {QStringLiteral("Hz"), 1e-6, 1e6},
-        {QStringLiteral("kHz"), 0.001, 1000.0},
-        {QStringLiteral("MHz"), 1.0, 1.0},
-        {QStringLiteral("GHz"), 1000.0, 0.001},
+    static constexpr FrequencyUnit units[] = {
+        {u"Hz", 1e-6, 1e6},
+        {u"kHz", 0.001, 1000.0},
+        {u"MHz", 1.0, 1.0},
+        {u"GHz", 1000.0, 0.001},
     };
     for (const FrequencyUnit& known : units) {
         if (isSameText(known.unit, unit))
@@ -185,7 +185,7 @@ bool XmlReadUnitQuantity::isUnitValid() const
 
 static const QuantityRules& dBmRules()
 {
-    static const QuantityRules rules = {
+    static const NeverDestroyed<QuantityRules> rules = QuantityRules{
         QStringLiteral("dBm"), -110.0,  QuantityRules::Real, {'f', 9}, isNormalPositive, isNotNormalPositive,
         "Illegal decibel.",    nullptr,
     };
@@ -204,7 +204,7 @@ const QuantityRules& XmlDBMType::rules() const
 
 static const QuantityRules& decibelRules()
 {
-    static const QuantityRules rules = {
+    static const NeverDestroyed<QuantityRules> rules = QuantityRules{
         QStringLiteral("dB"), -0.0,    QuantityRules::Real, {'f', 6}, isNormalPositive, isNotNormalPositive,
         "Illegal decibel.",   nullptr,
     };
@@ -223,7 +223,7 @@ const QuantityRules& XmlDecibelType::rules() const
 
 static const QuantityRules& degreesRules()
 {
-    static const QuantityRules rules = {
+    static const NeverDestroyed<QuantityRules> rules = QuantityRules{
         QString(QChar(0x00B0)),
         -0.0,
         QuantityRules::Real,
@@ -248,7 +248,7 @@ const QuantityRules& XmlDegreesType::rules() const
 
 static const QuantityRules& lengthRules()
 {
-    static const QuantityRules rules = {
+    static const NeverDestroyed<QuantityRules> rules = QuantityRules{
         QStringLiteral("m"), 0.0,     QuantityRules::Integer,          {'f', 0}, isAnything,
         isNothing,           nullptr, "Illegal unit (must be \"m\").",
     };
@@ -267,7 +267,7 @@ const QuantityRules& XmlLengthType::rules() const
 
 static const QuantityRules& powerRules()
 {
-    static const QuantityRules rules = {
+    static const NeverDestroyed<QuantityRules> rules = QuantityRules{
         QStringLiteral("W"),
         -9.9,
         QuantityRules::Real,
@@ -292,7 +292,7 @@ const QuantityRules& XmlPowerType::rules() const
 
 static const QuantityRules& freqRules()
 {
-    static const QuantityRules rules = {
+    static const NeverDestroyed<QuantityRules> rules = QuantityRules{
         QStringLiteral("MHz"),
         -9.9,
         QuantityRules::Real,
@@ -335,7 +335,7 @@ double XmlFreqType::writtenNumber() const
 
 static const QuantityRules& bandwidthRules()
 {
-    static const QuantityRules rules = {
+    static const NeverDestroyed<QuantityRules> rules = QuantityRules{
         QStringLiteral("kHz"),
         -1.0,
         QuantityRules::Integer,
@@ -360,7 +360,7 @@ const QuantityRules& XmlBandwidthType::rules() const
 
 static const QuantityRules& fieldstrengthRules()
 {
-    static const QuantityRules rules = {
+    static const NeverDestroyed<QuantityRules> rules = QuantityRules{
         QStringLiteral("dBm"),
         -99999.999,
         QuantityRules::Real,
@@ -385,7 +385,7 @@ const QuantityRules& XmlFieldstrengthType::rules() const
 
 static const QuantityRules& sinadRules()
 {
-    static const QuantityRules rules = {
+    static const NeverDestroyed<QuantityRules> rules = QuantityRules{
         QString(),
         0.0,
         QuantityRules::Real,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/neverdestroyed.h"
 #include "core/numbers.h"
 
 #include <QtCore/QString>

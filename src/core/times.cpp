@@ -40,4 +40,27 @@ QDateTime toDateTime(const QString& text)
     return time.isValid() ? time : QDateTime::fromString(text, Qt::ISODate);
 }
 
+QString isoText(const QDateTime& time)
+{
+    const QDate date = time.date();
+    const bool isPlain = time.isValid() && (time.timeSpec() == Qt::LocalTime || time.timeSpec() == Qt::UTC)
+        && date.year() > 0 && date.year() <= 9999;
+    if (!isPlain)
+        return time.toString(Qt::ISODate);
+    const QTime clock = time.time();
+    QString text = QString::asprintf("%04d-%02d-%02dT%02d:%02d:%02d", date.year(), date.month(), date.day(),
+                                     clock.hour(), clock.minute(), clock.second());
+    if (time.timeSpec() == Qt::UTC)
+        text += QLatin1Char('Z');
+    return text;
+}
+
+QString timeDigits(const QDateTime& time)
+{
+    const QDate date = time.date();
+    const QTime clock = time.time();
+    return QString::asprintf("%02d%02d%02d%02d%02d%02d%03d", date.year() % 100, date.month(), date.day(), clock.hour(),
+                             clock.minute(), clock.second(), clock.msec());
+}
+
 } // namespace ArvXml

@@ -11,7 +11,7 @@ XmlDBMListType::XmlDBMListType()
 
 const ElementForm& XmlDBMListType::form() const
 {
-    static const ElementForm form =
+    static const NeverDestroyed<ElementForm> form =
         ElementForm(listWording).listOf("dBm", items<&XmlDBMListType::m_items>(), "Too few pairs (min. 1)");
     return form;
 }
@@ -23,7 +23,7 @@ XmlDecibelListType::XmlDecibelListType()
 
 const ElementForm& XmlDecibelListType::form() const
 {
-    static const ElementForm form =
+    static const NeverDestroyed<ElementForm> form =
         ElementForm(listWording).listOf("Decibel", items<&XmlDecibelListType::m_items>(), "Too few pairs (min. 1)");
     return form;
 }
@@ -35,7 +35,7 @@ XmlDegreesListType::XmlDegreesListType()
 
 const ElementForm& XmlDegreesListType::form() const
 {
-    static const ElementForm form =
+    static const NeverDestroyed<ElementForm> form =
         ElementForm(listWording).listOf("Degrees", items<&XmlDegreesListType::m_items>(), "Too few pairs (min. 1)");
     return form;
 }
@@ -47,7 +47,7 @@ XmlFreqListType::XmlFreqListType()
 
 const ElementForm& XmlFreqListType::form() const
 {
-    static const ElementForm form =
+    static const NeverDestroyed<ElementForm> form =
         ElementForm(listWording)
             .listOf("Frequency", items<&XmlFreqListType::m_items>(), "Too few frequencies (min. 1)");
     return form;
@@ -60,11 +60,12 @@ XmlFreqThrPairType::XmlFreqThrPairType()
 
 const ElementForm& XmlFreqThrPairType::form() const
 {
-    static const ElementForm form = ElementForm(listWording)
-                                        .sequence({
-                                            required("Frequency", child<&XmlFreqThrPairType::m_frequency>()),
-                                            required("RxThreshold", child<&XmlFreqThrPairType::m_threshold>()),
-                                        });
+    static const NeverDestroyed<ElementForm> form =
+        ElementForm(listWording)
+            .sequence({
+                required("Frequency", child<&XmlFreqThrPairType::m_frequency>()),
+                required("RxThreshold", child<&XmlFreqThrPairType::m_threshold>()),
+            });
     return form;
 }
 
@@ -75,7 +76,7 @@ XmlFreqThrListType::XmlFreqThrListType()
 
 const ElementForm& XmlFreqThrListType::form() const
 {
-    static const ElementForm form =
+    static const NeverDestroyed<ElementForm> form =
         ElementForm(listWording).listOf("Pair", items<&XmlFreqThrListType::m_items>(), "Too few pairs (min. 1)");
     return form;
 }

@@ -49,21 +49,17 @@ XmlDeploymentAreaType::XmlDeploymentAreaType()
 const ElementForm& XmlDeploymentAreaType::form() const
 {
     using Self = XmlDeploymentAreaType;
-    enum : Marks { Path = 1, Name = 2, Area = 4, Height = 8, Threshold = 16, Frequency = 32, Power = 64 };
-    static const ElementForm form =
+    static const NeverDestroyed<ElementForm> form =
         ElementForm(listWording)
-            .children({
-                {"SignalPath", Path, Path | Name | Area | Height | Threshold | Frequency | Power,
-                 reused<&Self::m_signalPath>()},
-                {"Name", Name, Name | Area | Height | Threshold | Frequency | Power, child<&Self::m_objName>()},
-                {"AreaRect", Area, Area | Height | Threshold | Frequency | Power, areaRectChild()},
-                {"AreaPolygon", Area, Area | Height | Threshold | Frequency | Power, areaPolyChild()},
-                {"AntennaHeight", Height, Height | Threshold | Frequency | Power, child<&Self::m_antennaHeight>()},
-                {"RxThreshold", Threshold, Threshold | Frequency | Power, child<&Self::m_rxThreshold>()},
-                {"Frequency", Frequency, Frequency | Power, child<&Self::m_txFrequency>()},
-                {"TxPower", Power, Power, child<&Self::m_txPower>()},
+            .sequence({
+                optional("SignalPath", reused<&Self::m_signalPath>()),
+                required("Name", child<&Self::m_objName>()),
+                oneOf({{"AreaRect", areaRectChild()}, {"AreaPolygon", areaPolyChild()}}),
+                required("AntennaHeight", child<&Self::m_antennaHeight>()),
+                required("RxThreshold", child<&Self::m_rxThreshold>()),
+                required("Frequency", child<&Self::m_txFrequency>()),
+                required("TxPower", child<&Self::m_txPower>()),
             })
-            .completeWith(Name | Area | Height | Threshold | Frequency | Power)
             .refusesOtherVersions();
     return form;
 }
@@ -78,17 +74,14 @@ XmlAoiType::XmlAoiType()
 const ElementForm& XmlAoiType::form() const
 {
     using Self = XmlAoiType;
-    enum : Marks { Name = 1, Area = 2, TxParameter = 4, Threshold = 8 };
-    static const ElementForm form =
+    static const NeverDestroyed<ElementForm> form =
         ElementForm(listWording)
-            .children({
-                {"Name", Name, Name | Area | TxParameter | Threshold, child<&Self::m_objName>()},
-                {"AreaRect", Area, Area | TxParameter | Threshold, areaRectChild()},
-                {"AreaPolygon", Area, Area | TxParameter | Threshold, areaPolyChild()},
-                {"TxParameter", TxParameter, TxParameter | Threshold, child<&Self::m_txParam>()},
-                {"RxThreshold", Threshold, Threshold, renewed<&Self::m_rxThreshold>()},
+            .sequence({
+                required("Name", child<&Self::m_objName>()),
+                oneOf({{"AreaRect", areaRectChild()}, {"AreaPolygon", areaPolyChild()}}),
+                required("TxParameter", child<&Self::m_txParam>()),
+                optional("RxThreshold", renewed<&Self::m_rxThreshold>()),
             })
-            .completeWith(Name | Area | TxParameter)
             .refusesOtherVersions();
     return form;
 }

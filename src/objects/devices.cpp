@@ -12,7 +12,7 @@ XmlDeviceCategoryType::XmlDeviceCategoryType()
 
 const EnumerationRules& XmlDeviceCategoryType::rules() const
 {
-    static const EnumerationRules rules = {
+    static const NeverDestroyed<EnumerationRules> rules = EnumerationRules{
         EnumerationTexts({"Receiver", "PassiveAntennas", "Cable", "Other", "ActiveAntennas", "DF"}),
         "Illegal enum value.",
         "Illegal Device Category.",
@@ -46,7 +46,7 @@ const ElementForm& XmlDeviceType::form() const
     constexpr Marks All = Fixed | Lists;
     // The order is that of writing. The gates of the lists contradict it: KFactors is written second but
     // refused before Gains, Degrees and DBM.
-    static const ElementForm form =
+    static const NeverDestroyed<ElementForm> form =
         ElementForm(listWording)
             .children({
                 {"DeviceCategory", Category, All, child<&Self::m_category>()},
@@ -75,7 +75,7 @@ XmlDeviceListType::XmlDeviceListType()
 
 const ElementForm& XmlDeviceListType::form() const
 {
-    static const ElementForm form =
+    static const NeverDestroyed<ElementForm> form =
         ElementForm(listWording).listOf("Device", items<&XmlDeviceListType::m_items>(), "Too few devices (min. 1)");
     return form;
 }
@@ -91,7 +91,7 @@ XmlMapType::XmlMapType()
 
 const ElementForm& XmlMapType::form() const
 {
-    static const ElementForm form = [] {
+    static const NeverDestroyed<ElementForm> form = [] {
         Content key = unjudged(reused<&XmlMapType::m_key>());
         const Content value = reused<&XmlMapType::m_value>();
         key.write = value.write; // the value is written in the place of the key, too
@@ -114,7 +114,7 @@ XmlMapListType::XmlMapListType()
 
 const ElementForm& XmlMapListType::form() const
 {
-    static const ElementForm form =
+    static const NeverDestroyed<ElementForm> form =
         ElementForm(listWording).listOf("Map", items<&XmlMapListType::m_items>(), "Too few mappings (min. 1)");
     return form;
 }

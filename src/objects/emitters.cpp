@@ -7,7 +7,7 @@ namespace ArvXml {
 
 static const QuantityRules& dfPrecisionRules()
 {
-    static const QuantityRules rules = {
+    static const NeverDestroyed<QuantityRules> rules = QuantityRules{
         QString(QChar(0x00B0)),
         -2.0,
         QuantityRules::Integer,
@@ -37,13 +37,14 @@ XmlEmitterType::XmlEmitterType()
 
 const ElementForm& XmlEmitterType::form() const
 {
-    static const ElementForm form = ElementForm(listWording)
-                                        .sequence({
-                                            required("Name", child<&XmlEmitterType::m_objName>()),
-                                            required("Position", child<&XmlEmitterType::m_position>()),
-                                            required("TxParameter", child<&XmlEmitterType::m_txParam>()),
-                                        })
-                                        .refusesOtherVersions();
+    static const NeverDestroyed<ElementForm> form =
+        ElementForm(listWording)
+            .sequence({
+                required("Name", child<&XmlEmitterType::m_objName>()),
+                required("Position", child<&XmlEmitterType::m_position>()),
+                required("TxParameter", child<&XmlEmitterType::m_txParam>()),
+            })
+            .refusesOtherVersions();
     return form;
 }
 
@@ -54,15 +55,16 @@ XmlDfType::XmlDfType()
 
 const ElementForm& XmlDfType::form() const
 {
-    static const ElementForm form = ElementForm(listWording)
-                                        .sequence({
-                                            required("Name", child<&XmlDfType::m_objName>()),
-                                            required("Position", child<&XmlDfType::m_position>()),
-                                            required("RxParameter", child<&XmlDfType::m_rxParam>()),
-                                            required("DFprecision", child<&XmlDfType::m_dfPrecision>()),
-                                            optional("StationInterlink", renewed<&XmlDfType::m_interlink>()),
-                                        })
-                                        .refusesOtherVersions();
+    static const NeverDestroyed<ElementForm> form =
+        ElementForm(listWording)
+            .sequence({
+                required("Name", child<&XmlDfType::m_objName>()),
+                required("Position", child<&XmlDfType::m_position>()),
+                required("RxParameter", child<&XmlDfType::m_rxParam>()),
+                required("DFprecision", child<&XmlDfType::m_dfPrecision>()),
+                optional("StationInterlink", renewed<&XmlDfType::m_interlink>()),
+            })
+            .refusesOtherVersions();
     return form;
 }
 

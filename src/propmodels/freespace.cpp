@@ -13,7 +13,7 @@ XmlPropModelFSType::XmlPropModelFSType()
 const ParameterTable& XmlPropModelFSType::table() const
 {
     // real: tag, default, decimals, lowest, highest, problem out of range, reader error
-    static const ParameterTable table =
+    static const NeverDestroyed<ParameterTable> table =
         ParameterTable({
                            {KFactorRow,
                             repeatable(real("K-factor", 1.3333, 4, 0.1, 5.0, "K-factor out of bounds",

@@ -4,6 +4,26 @@
 
 namespace ArvXml {
 
+namespace {
+
+std::vector<QString> itmPolarisations()
+{
+    return texts({"UNDEFINED", "H", "V"});
+}
+
+std::vector<QString> itmClimates()
+{
+    return texts({"UNDEFINED", "Equatorial", "Continental Subtropical", "Maritime Tropical", "Desert",
+                  "Continental Temperate", "Maritime Temperate, Land", "Maritime Temperate, Sea"});
+}
+
+std::vector<QString> itmSurfaces()
+{
+    return texts({"UNDEFINED", "Average Ground", "Poor Ground", "Good Ground", "Fresh Water", "Sea Water"});
+}
+
+} // namespace
+
 XmlPropModelITMType::XmlPropModelITMType()
     : XmlParameterSet(QStringLiteral("XmlPropModelITMType"))
 {
@@ -12,25 +32,20 @@ XmlPropModelITMType::XmlPropModelITMType()
 
 const ParameterTable& XmlPropModelITMType::table() const
 {
-    static const std::vector<QString> polarisations = texts({"UNDEFINED", "H", "V"});
-    static const std::vector<QString> climates =
-        texts({"UNDEFINED", "Equatorial", "Continental Subtropical", "Maritime Tropical", "Desert",
-               "Continental Temperate", "Maritime Temperate, Land", "Maritime Temperate, Sea"});
-    static const std::vector<QString> surfaces =
-        texts({"UNDEFINED", "Average Ground", "Poor Ground", "Good Ground", "Fresh Water", "Sea Water"});
-
     // real: tag, default, decimals, lowest, highest, problem out of range, reader error
     // definedChoice: tag, texts from value 0 on, problem of value 0, reader error
-    static const ParameterTable table =
+    static const NeverDestroyed<ParameterTable> table =
         ParameterTable(
             {
                 {RriRow,
                  real("RRI", 300.0, 4, -300.0, 400.0, "RRI out of bounds", "Illegal RRI value (must be numeric)")},
-                {PolRow, definedChoice("Pol", polarisations, "Illegal polarisation", "Illegal value for \"Pol\"")},
-                {ClimateRow, definedChoice("Climate", climates, "Illegal climate", "Illegal value for \"Climate\"")},
+                {PolRow, definedChoice("Pol", itmPolarisations(), "Illegal polarisation", "Illegal value for \"Pol\"")},
+                {ClimateRow,
+                 definedChoice("Climate", itmClimates(), "Illegal climate", "Illegal value for \"Climate\"")},
                 {SurfaceRow,
-                 textChosenBy(ClimateRow,
-                              definedChoice("Surface", surfaces, "Illegal surface", "Illegal value for \"Surface\""))},
+                 textChosenBy(
+                     ClimateRow,
+                     definedChoice("Surface", itmSurfaces(), "Illegal surface", "Illegal value for \"Surface\""))},
                 {ConfRow,
                  real("Conf", 0.5, 2, 0.0, 100.0, "Conf out of bounds", "Illegal Conf value (must be numeric)")},
                 {TimeRow,

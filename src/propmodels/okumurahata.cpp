@@ -4,6 +4,20 @@
 
 namespace ArvXml {
 
+namespace {
+
+std::vector<QString> hataAreas()
+{
+    return texts({"UNDEFINED", "Urban", "Suburban", "Open rural"});
+}
+
+std::vector<QString> hataSizes()
+{
+    return texts({"UNDEFINED", "Small", "Medium", "Large"});
+}
+
+} // namespace
+
 XmlPropModelHataType::XmlPropModelHataType()
     : XmlParameterSet(QStringLiteral("XmlPropModelHataType"))
 {
@@ -12,17 +26,14 @@ XmlPropModelHataType::XmlPropModelHataType()
 
 const ParameterTable& XmlPropModelHataType::table() const
 {
-    static const std::vector<QString> areas = texts({"UNDEFINED", "Urban", "Suburban", "Open rural"});
-    static const std::vector<QString> sizes = texts({"UNDEFINED", "Small", "Medium", "Large"});
-
     // real: tag, default, decimals, lowest, highest, problem out of range, reader error
     // definedChoice: tag, texts from value 0 on, problem of value 0, reader error
-    static const ParameterTable table = {
+    static const NeverDestroyed<ParameterTable> table = ParameterTable{
         {KFactorRow,
          writtenAsTheSet(real("K-factor", 1.3333, 4, 0.1, 5.0, "Kfactor out of bounds",
                               "Illegal Kfactor value (must be numeric)"))},
-        {AreaTypeRow, definedChoice("AreaType", areas, "Illegal AreaType", "Illegal value for \"AreaType\"")},
-        {CitySizeRow, definedChoice("CitySize", sizes, "Illegal CitySize", "Illegal value for \"CitySize\"")},
+        {AreaTypeRow, definedChoice("AreaType", hataAreas(), "Illegal AreaType", "Illegal value for \"AreaType\"")},
+        {CitySizeRow, definedChoice("CitySize", hataSizes(), "Illegal CitySize", "Illegal value for \"CitySize\"")},
     };
     return table;
 }

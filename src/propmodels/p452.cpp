@@ -14,7 +14,7 @@ const ParameterTable& XmlPropModelP452Type::table() const
 {
     // real: tag, default, decimals, lowest, highest, problem out of range, reader error
     // integer: tag, default, lowest, highest, problem out of range, reader error
-    static const ParameterTable table = {
+    static const NeverDestroyed<ParameterTable> table = ParameterTable{
         {DeltaNRow,
          real("DeltaN", 45.59, 1, 0.0, 600.0, "DeltaN out of bounds", "Illegal DeltaN value (must be numeric)")},
         {SurfaceRefractRow,

@@ -13,7 +13,7 @@ XmlPropModelP533Type::XmlPropModelP533Type()
 const ParameterTable& XmlPropModelP533Type::table() const
 {
     // real: tag, default, decimals, lowest, highest, problem out of range, reader error
-    static const ParameterTable table = {
+    static const NeverDestroyed<ParameterTable> table = ParameterTable{
         {KFactorRow,
          real("K-factor", 1.0, 3, 0.1, 5.0, "K-factor out of bounds", "Illegal K-factor value (must be numeric)")},
         {SunSpotsRow,

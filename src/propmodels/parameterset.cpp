@@ -10,6 +10,13 @@
 
 namespace ArvXml {
 
+XmlParameterSet& XmlParameterSet::operator=(XmlParameterSet&& other) noexcept
+{
+    XmlElement::operator=(other);
+    m_parameters.swap(other.m_parameters);
+    return *this;
+}
+
 void XmlParameterSet::processXml(QXmlStreamReader& reader, const QString& tagName)
 {
     const ParameterTable& table = this->table();

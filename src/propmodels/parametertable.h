@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/neverdestroyed.h"
+
 #include <QtCore/QString>
 
 #include <initializer_list>
@@ -38,6 +40,12 @@ inline std::vector<QString> texts(std::initializer_list<const char*> list)
     for (const char* text : list)
         result.push_back(QString::fromLatin1(text));
     return result;
+}
+
+/// Those of a choice between off and on.
+inline std::vector<QString> switchTexts()
+{
+    return texts({"Off", "On"});
 }
 
 /// A real number, valid from \a min to \a max, written with \a decimals.

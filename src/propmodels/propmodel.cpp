@@ -14,7 +14,7 @@ XmlPropModelEnumType::XmlPropModelEnumType()
 
 const EnumerationRules& XmlPropModelEnumType::rules() const
 {
-    static const EnumerationRules rules = {
+    static const NeverDestroyed<EnumerationRules> rules = EnumerationRules{
         EnumerationTexts({"Free-space", "OLOS", "ITM", "P.452", "P.1546", "P.526", "P.533", "Okumura-Hata"}),
         "Illegal enum value.",
         "No model selected.",
@@ -38,7 +38,7 @@ void XmlPropModelEnumType::processXml(QXmlStreamReader& reader, const QString& t
 
 namespace {
 
-enum PropModelMarks : Marks { Selection = 1, Properties = 2, Reference = 4, Command = 8 };
+enum PropModelMarks : Marks { Selection = 1, Properties = 2, CommandReference = 4, Command = 8 };
 
 } // namespace
 
@@ -67,23 +67,23 @@ Content XmlPropModelType::referenceOfCommand()
 const ElementForm& XmlPropModelType::form() const
 {
     using Self = XmlPropModelType;
-    static const ElementForm form =
+    static const NeverDestroyed<ElementForm> form =
         ElementForm(listWording)
             .children({
-                {"SelectModel", Selection, Selection | Properties | Reference,
+                {"SelectModel", Selection, Selection | Properties | CommandReference,
                  reportedApart(renewed<&Self::m_model>())},
-                {"PropertiesFreespace", Properties, Properties | Reference, renewed<&Self::m_freespace>()},
-                {"PropertiesOLOS", Properties, Properties | Reference, renewed<&Self::m_olos>()},
-                {"PropertiesITM", Properties, Properties | Reference, renewed<&Self::m_itm>()},
-                {"PropertiesP452", Properties, Properties | Reference, renewed<&Self::m_p452>()},
-                {"PropertiesP1546", Properties, Properties | Reference, renewed<&Self::m_p1546>()},
-                {"PropertiesP526", Properties, Properties | Reference, renewed<&Self::m_p526>()},
-                {"PropertiesP533", Properties, Properties | Reference, renewed<&Self::m_p533>()},
-                {"PropertiesOkumura", Properties, Properties | Reference, renewed<&Self::m_hata>()},
-                {"Reference", Reference, Reference, referenceOfCommand(), Command},
+                {"PropertiesFreespace", Properties, Properties | CommandReference, renewed<&Self::m_freespace>()},
+                {"PropertiesOLOS", Properties, Properties | CommandReference, renewed<&Self::m_olos>()},
+                {"PropertiesITM", Properties, Properties | CommandReference, renewed<&Self::m_itm>()},
+                {"PropertiesP452", Properties, Properties | CommandReference, renewed<&Self::m_p452>()},
+                {"PropertiesP1546", Properties, Properties | CommandReference, renewed<&Self::m_p1546>()},
+                {"PropertiesP526", Properties, Properties | CommandReference, renewed<&Self::m_p526>()},
+                {"PropertiesP533", Properties, Properties | CommandReference, renewed<&Self::m_p533>()},
+                {"PropertiesOkumura", Properties, Properties | CommandReference, renewed<&Self::m_hata>()},
+                {"Reference", CommandReference, CommandReference, referenceOfCommand(), Command},
             })
             .completeWhen(Command, 0)
-            .completeWith(Command | Reference);
+            .completeWith(Command | CommandReference);
     return form;
 }
 

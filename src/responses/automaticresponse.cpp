@@ -22,7 +22,7 @@ QString statusAttribute()
 
 const EnumerationTexts& statusTexts()
 {
-    static const EnumerationTexts texts({"fault", "ack"});
+    static const NeverDestroyed<EnumerationTexts> texts = EnumerationTexts({"fault", "ack"});
     return texts;
 }
 
@@ -36,17 +36,17 @@ XmlAutoRespType::XmlAutoRespType()
 const ElementForm& XmlAutoRespType::form() const
 {
     using Self = XmlAutoRespType;
-    enum : Marks { Reference = 1, Item = 2 };
-    static const ElementForm form = ElementForm(compositeWording)
-                                        .children({
-                                            {referenceTag, Reference, Reference | Item, child<&Self::m_reference>()},
-                                            {errorTag, Item, Item, takenBy<&Self::setErrorMessage>()},
-                                            {timeTag, Item, Item, takenBy<&Self::takeEstimatedTime>()},
-                                            {gridTag, Item, Item, renewed<&Self::m_gridResult>()},
-                                            {interlinkTag, Item, Item, renewed<&Self::m_interlinkResult>()},
-                                            {versionTag, Item, Item, takenBy<&Self::setArvVersion>()},
-                                        })
-                                        .completeWith(Reference | Item);
+    static const NeverDestroyed<ElementForm> form = ElementForm(compositeWording)
+                                                        .sequence({
+                                                            required(referenceTag, child<&Self::m_reference>()),
+                                                            oneOf({
+                                                                {errorTag, takenBy<&Self::setErrorMessage>()},
+                                                                {timeTag, takenBy<&Self::takeEstimatedTime>()},
+                                                                {gridTag, renewed<&Self::m_gridResult>()},
+                                                                {interlinkTag, renewed<&Self::m_interlinkResult>()},
+                                                                {versionTag, takenBy<&Self::setArvVersion>()},
+                                                            }),
+                                                        });
     return form;
 }
 
@@ -75,7 +75,7 @@ void XmlAutoRespType::produceXml(QXmlStreamWriter& writer, const QString& tagNam
     if (hasErrorMessage()) {
         writer.writeTextElement(QString::fromLatin1(errorTag), m_errorMessage); // and nothing more
     } else if (hasEstimatedTime()) {
-        writer.writeTextElement(QString::fromLatin1(timeTag), m_estimatedTime.toString(Qt::ISODate)); // likewise
+        writer.writeTextElement(QString::fromLatin1(timeTag), isoText(m_estimatedTime)); // likewise
     } else {
         if (hasArvVersion())
             writer.writeTextElement(QString::fromLatin1(versionTag), m_arvVersion);

@@ -10,9 +10,10 @@ namespace ArvXml {
 
 namespace {
 
-const EnumerationTexts& typeTexts()
+const EnumerationTexts& resultTypeTexts()
 {
-    static const EnumerationTexts texts({"FindSites", "CEP", "DetectProb", "DfCoverage", "BestSensorCov"});
+    static const NeverDestroyed<EnumerationTexts> texts =
+        EnumerationTexts({"FindSites", "CEP", "DetectProb", "DfCoverage", "BestSensorCov"});
     return texts;
 }
 
@@ -86,7 +87,7 @@ const ElementForm& XmlGridResultType::form() const
 {
     using Self = XmlGridResultType;
     constexpr Marks Entered = InWrapper | WrapperDone;
-    static const ElementForm form =
+    static const NeverDestroyed<ElementForm> form =
         ElementForm(compositeWording)
             .children({
                 {findSitesTag, InWrapper, Entered, wrapped<&Self::m_findSites>(), typeMark(ResultFindSites)},
@@ -119,7 +120,7 @@ quint32 XmlGridResultType::openElement(ElementReader& in)
 {
     if (!in.requireStartTag())
         return 0;
-    m_type = static_cast<ResultType>(typeTexts().value(in.attribute(typeAttribute())));
+    m_type = static_cast<ResultType>(resultTypeTexts().value(in.attribute(typeAttribute())));
     if (m_type == ResultUndefined)
         in.refuseAttribute(typeAttribute());
     return typeMark(m_type);
@@ -127,7 +128,7 @@ quint32 XmlGridResultType::openElement(ElementReader& in)
 
 void XmlGridResultType::writeAttributes(QXmlStreamWriter& writer) const
 {
-    writer.writeAttribute(typeAttribute(), typeTexts().text(m_type));
+    writer.writeAttribute(typeAttribute(), resultTypeTexts().text(m_type));
 }
 
 bool XmlGridResultType::isTypeDefined() const
@@ -154,7 +155,7 @@ bool XmlGridResultType::isValid() const
 void XmlGridResultType::addErrors()
 {
     if (isTypeDefined() && !hasParametersOfType()) {
-        const QString& type = typeTexts().text(m_type);
+        const QString& type = resultTypeTexts().text(m_type);
         addSyntaxError(QStringLiteral("Type is '%1' but no %1 parameters or other parameters found").arg(type));
     }
     addChildrenErrors();
@@ -204,17 +205,18 @@ XmlGridValuesType::XmlGridValuesType()
 const ElementForm& XmlGridValuesType::form() const
 {
     using Self = XmlGridValuesType;
-    static const ElementForm form = ElementForm(listWording)
-                                        .children({
-                                            {"Min", InMin, InMin | MinDone, writtenBy<&Self::writeMin>()},
-                                            {"Max", InMax, InMax | MaxDone, writtenBy<&Self::writeMax>(), MinDone},
-                                        })
-                                        .innerEnds({
-                                            {"Min", InMin, InMin, MinDone},
-                                            {"Max", InMax, InMax, MaxDone},
-                                        })
-                                        .completeWith(MaxDone)
-                                        .onCharacters(takeCharacters);
+    static const NeverDestroyed<ElementForm> form =
+        ElementForm(listWording)
+            .children({
+                {"Min", InMin, InMin | MinDone, writtenBy<&Self::writeMin>()},
+                {"Max", InMax, InMax | MaxDone, writtenBy<&Self::writeMax>(), MinDone},
+            })
+            .innerEnds({
+                {"Min", InMin, InMin, MinDone},
+                {"Max", InMax, InMax, MaxDone},
+            })
+            .completeWith(MaxDone)
+            .onCharacters(takeCharacters);
     return form;
 }
 

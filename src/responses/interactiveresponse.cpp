@@ -14,16 +14,16 @@ XmlResultObjectType::XmlResultObjectType()
 const ElementForm& XmlResultObjectType::form() const
 {
     using Self = XmlResultObjectType;
-    enum : Marks { Object = 1 };
     // It words start tags as lists do and end tags as composites do.
     static constexpr Wording wording = {listWording.start, compositeWording.end};
-    // Nothing completes it: its own end tag is refused like any other.
-    static const ElementForm form = ElementForm(wording).children({
-        {"Station", Object, Object, renewed<&Self::m_station>()},
-        {"Emitter", Object, Object, renewed<&Self::m_emitter>()},
-        {"Receiver", Object, Object, renewed<&Self::m_receiver>()},
-        {"DF", Object, Object, renewed<&Self::m_df>()},
-    });
+    static const NeverDestroyed<ElementForm> form = ElementForm(wording)
+                                                        .sequence({oneOf({
+                                                            {"Station", renewed<&Self::m_station>()},
+                                                            {"Emitter", renewed<&Self::m_emitter>()},
+                                                            {"Receiver", renewed<&Self::m_receiver>()},
+                                                            {"DF", renewed<&Self::m_df>()},
+                                                        })})
+                                                        .neverComplete(); // its own end tag is refused like any other
     return form;
 }
 
@@ -37,14 +37,12 @@ XmlInteractRespType::XmlInteractRespType()
 const ElementForm& XmlInteractRespType::form() const
 {
     using Self = XmlInteractRespType;
-    enum : Marks { Item = 1 };
-    static const ElementForm form = ElementForm(compositeWording)
-                                        .children({
-                                            {"GridResult", Item, Item, renewed<&Self::m_gridResult>()},
-                                            {"InterlinkResult", Item, Item, renewed<&Self::m_interlinkResult>()},
-                                            {"Station", Item, Item, renewed<&Self::m_result>()},
-                                        })
-                                        .completeWith(Item);
+    static const NeverDestroyed<ElementForm> form = ElementForm(compositeWording)
+                                                        .sequence({oneOf({
+                                                            {"GridResult", renewed<&Self::m_gridResult>()},
+                                                            {"InterlinkResult", renewed<&Self::m_interlinkResult>()},
+                                                            {"Station", renewed<&Self::m_result>()},
+                                                        })});
     return form;
 }
 

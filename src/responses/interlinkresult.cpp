@@ -15,7 +15,7 @@ const ElementForm& XmlInterlinkResultType::form() const
     enum : Marks { Parameters = 1, InResult = 2, Text = 4, Filename = 8 };
     // "Text" and "ScreenshotFilename" stand inside "Result", whose tags this element reads and writes
     // itself. "Result" may be left and entered again, and may come first, until one of them was read.
-    static const ElementForm form =
+    static const NeverDestroyed<ElementForm> form =
         ElementForm(compositeWording)
             .children({
                 {"Parameters", Parameters, Parameters | InResult | Text | Filename, child<&Self::m_parameters>()},

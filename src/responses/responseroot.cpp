@@ -18,9 +18,9 @@ QString timestampAttribute()
     return QStringLiteral("timestamp");
 }
 
-const EnumerationTexts& typeTexts()
+const EnumerationTexts& responseTypeTexts()
 {
-    static const EnumerationTexts texts({"interactive", "automatic"});
+    static const NeverDestroyed<EnumerationTexts> texts = EnumerationTexts({"interactive", "automatic"});
     return texts;
 }
 
@@ -28,36 +28,19 @@ const EnumerationTexts& typeTexts()
 
 XmlRespRoot::XmlRespRoot()
     : XmlComposite(QStringLiteral("XmlRespRoot"))
-    , m_timestamp(QDateTime::currentDateTimeUtc())
+    , m_timestamp(QDateTime::currentDateTime())
 {
-}
-
-const QDateTime& XmlRespRoot::timestamp() const
-{
-    if (m_isMade) {
-        m_timestamp = m_timestamp.toLocalTime();
-        m_isMade = false;
-    }
-    return m_timestamp;
-}
-
-void XmlRespRoot::setTimestamp(const QDateTime& timestamp)
-{
-    m_timestamp = timestamp;
-    m_isMade = false;
 }
 
 const ElementForm& XmlRespRoot::form() const
 {
     using Self = XmlRespRoot;
-    enum : Marks { Answer = 1 };
-    static const ElementForm form = ElementForm(compositeWording)
-                                        .children({
-                                            {"ORDER_DEF", 0, 0, renewed<&Self::m_orderDef>()},
-                                            {"Automatic", Answer, Answer, renewed<&Self::m_automatic>()},
-                                            {"Interactive", Answer, Answer, renewed<&Self::m_interactive>()},
-                                        })
-                                        .completeWith(0);
+    static const NeverDestroyed<ElementForm> form = ElementForm(compositeWording)
+                                                        .anywhere("ORDER_DEF", renewed<&Self::m_orderDef>())
+                                                        .sequence({optional(oneOf({
+                                                            {"Automatic", renewed<&Self::m_automatic>()},
+                                                            {"Interactive", renewed<&Self::m_interactive>()},
+                                                        }))});
     return form;
 }
 
@@ -65,7 +48,7 @@ quint32 XmlRespRoot::openElement(ElementReader& in)
 {
     if (!in.requireStartTag())
         return 0;
-    m_type = static_cast<RespType>(typeTexts().value(in.attribute(typeAttribute())));
+    m_type = static_cast<RespType>(responseTypeTexts().value(in.attribute(typeAttribute())));
     if (m_type == RespUndefined)
         in.refuseAttribute(typeAttribute());
     if (!takeFinal(keptText(in.attribute(finalAttribute()))))
@@ -90,9 +73,9 @@ bool XmlRespRoot::takeFinal(const QString& text)
 
 void XmlRespRoot::writeAttributes(QXmlStreamWriter& writer) const
 {
-    writer.writeAttribute(typeAttribute(), typeTexts().text(m_type));
+    writer.writeAttribute(typeAttribute(), responseTypeTexts().text(m_type));
     writer.writeAttribute(finalAttribute(), m_final ? QStringLiteral("true") : QStringLiteral("false"));
-    writer.writeAttribute(timestampAttribute(), timestamp().toString(Qt::ISODate));
+    writer.writeAttribute(timestampAttribute(), isoText(m_timestamp));
 }
 
 bool XmlRespRoot::isValid() const
@@ -133,8 +116,7 @@ void XmlRespRoot::reset()
 {
     m_type = RespUndefined;
     m_final = true;
-    m_timestamp = QDateTime::currentDateTimeUtc();
-    m_isMade = true;
+    m_timestamp = QDateTime::currentDateTime();
     XmlComposite::reset();
 }
 

@@ -6,8 +6,6 @@ namespace ArvXml {
 
 namespace {
 
-enum ResInfoMarks : Marks { Name = 1, Area = 2, Grid = 4, Values = 8, Comment = 16 };
-
 /// The polygon's child judges the choice of areas and reports it: a polygon goes before a rectangle.
 template <auto Polygon, auto Rectangle>
 Content areaChoice()
@@ -40,23 +38,22 @@ XmlResInfo::XmlResInfo(const QString& className)
 ElementForm XmlResInfo::commonForm()
 {
     using Self = XmlResInfo;
-    // Each child needs the one before it, so that all before it have been read: it is refused after itself alone.
     return ElementForm(listWording)
-        .children({
-            {"Name", Name, Name, child<&Self::m_objName>()},
-            {"AreaPolygon", Area, Area, areaChoice<&Self::m_areaPoly, &Self::m_areaRect>(), Name},
-            {"AreaRect", Area, Area, unjudged(reportedApart(readInsteadOf<&Self::m_areaRect, &Self::m_areaPoly>())),
-             Name},
-            {"ResultGrid", Grid, Grid, child<&Self::m_resultGrid>(), Area},
-            {"Values", Values, Values, child<&Self::m_gridValues>(), Grid},
+        .strictSequence({
+            required("Name", child<&Self::m_objName>()),
+            oneOf({
+                {"AreaPolygon", areaChoice<&Self::m_areaPoly, &Self::m_areaRect>()},
+                {"AreaRect", unjudged(reportedApart(readInsteadOf<&Self::m_areaRect, &Self::m_areaPoly>()))},
+            }),
+            required("ResultGrid", child<&Self::m_resultGrid>()),
+            required("Values", child<&Self::m_gridValues>()),
         })
-        .completeWith(Values)
         .refusesOtherVersions();
 }
 
 const ElementForm& XmlResInfo::form() const
 {
-    static const ElementForm form = commonForm();
+    static const NeverDestroyed<ElementForm> form = commonForm();
     return form;
 }
 
@@ -90,9 +87,8 @@ XmlResInfo_BestSensor_Type::XmlResInfo_BestSensor_Type()
 const ElementForm& XmlResInfo_BestSensor_Type::form() const
 {
     using Self = XmlResInfo_BestSensor_Type;
-    static const ElementForm form = commonForm().children({
-        {"Comment", Comment, Comment, reportedApart(renewed<&Self::m_comment>()), Values},
-    });
+    static const NeverDestroyed<ElementForm> form =
+        commonForm().strictSequence({optional("Comment", reportedApart(renewed<&Self::m_comment>()))});
     return form;
 }
 

@@ -54,27 +54,28 @@ XmlArvBtType::XmlArvBtType()
 const ElementForm& XmlArvBtType::form() const
 {
     using Self = XmlArvBtType;
-    static const ElementForm form = ElementForm(leafWording)
-                                        .children({
-                                            {pathTag, InPath, PathRead | InPath, entered()},
-                                            {objectsTag, InObjects, InPath | ObjectsDone, entered(), PathRead},
-                                            kind("DeploymentArea", Deployment, items<&Self::m_deployments>()),
-                                            kind("AreaOfInterest", Aoi, items<&Self::m_aois>()),
-                                            kind("KnownEmitter", Emitter, items<&Self::m_knownEmitters>()),
-                                            kind("Receiver", Receiver, items<&Self::m_receivers>()),
-                                            kind("DirectionFinder", Df, items<&Self::m_dfs>()),
-                                            kind("Result_FindSites", FindSites, items<&Self::m_resFindSite>()),
-                                            kind("Result_CEP", Cep, items<&Self::m_resCep>()),
-                                            kind("Result_DetectProb", DetectProb, items<&Self::m_resDetectProb>()),
-                                            kind("Result_DfCoverage", DfCov, items<&Self::m_resDfCov>()),
-                                        })
-                                        .onCharacters(takePath)
-                                        .innerEnds({
-                                            {pathTag, InPath, InPath, 0},
-                                            {objectsTag, InObjects, InObjects, ObjectsDone},
-                                        })
-                                        .completeWith(PathRead | ObjectsDone)
-                                        .refusesOtherVersions();
+    static const NeverDestroyed<ElementForm> form =
+        ElementForm(leafWording)
+            .children({
+                {pathTag, InPath, PathRead | InPath, entered()},
+                {objectsTag, InObjects, InPath | ObjectsDone, entered(), PathRead},
+                kind("DeploymentArea", Deployment, items<&Self::m_deployments>()),
+                kind("AreaOfInterest", Aoi, items<&Self::m_aois>()),
+                kind("KnownEmitter", Emitter, items<&Self::m_knownEmitters>()),
+                kind("Receiver", Receiver, items<&Self::m_receivers>()),
+                kind("DirectionFinder", Df, items<&Self::m_dfs>()),
+                kind("Result_FindSites", FindSites, items<&Self::m_resFindSite>()),
+                kind("Result_CEP", Cep, items<&Self::m_resCep>()),
+                kind("Result_DetectProb", DetectProb, items<&Self::m_resDetectProb>()),
+                kind("Result_DfCoverage", DfCov, items<&Self::m_resDfCov>()),
+            })
+            .onCharacters(takePath)
+            .innerEnds({
+                {pathTag, InPath, InPath, 0},
+                {objectsTag, InObjects, InObjects, ObjectsDone},
+            })
+            .completeWith(PathRead | ObjectsDone)
+            .refusesOtherVersions();
     return form;
 }
 

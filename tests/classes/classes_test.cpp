@@ -288,6 +288,7 @@ void checkType()
     static_assert(std::is_constructible_v<T, bool> == isModel);
     static_assert(std::is_copy_constructible_v<T>);
     static_assert(std::is_same_v<decltype(std::declval<T&>() = std::declval<const T&>()), T&>);
+    static_assert(std::is_nothrow_move_assignable_v<T>);
 }
 
 // Each gives an abstract class one of its operations
@@ -325,6 +326,8 @@ void checkOwnBase()
     constexpr bool hasEveryOperation = std::is_same_v<T, XmlResInfo> || std::is_same_v<T, XmlVersioned>;
     static_assert(std::is_abstract_v<T> != hasEveryOperation);
     static_assert(isPublicElement<T> != std::is_same_v<T, XmlVersioned>);
+    // A set with the values of another kind of set would look for values that it has not.
+    static_assert(!std::is_same_v<T, XmlParameterSet> || !std::is_assignable_v<T&, const T&>);
 }
 
 /// Makes the kept problems of an element visible.

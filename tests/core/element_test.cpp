@@ -130,7 +130,7 @@ struct Held {
     {
         ++alive;
     }
-    Held& operator=(const Held& other)
+    Held& operator=(const Held& other) noexcept
     {
         value = other.value;
         ++assignments;
@@ -252,7 +252,7 @@ private Q_SLOTS:
         QFETCH(QStringList, texts);
         QFETCH(QString, block);
         Probe probe;
-        for (const QString& text : qAsConst(texts))
+        for (const QString& text : std::as_const(texts))
             probe.addSyntaxError(text);
         QCOMPARE(probe.mySyntaxError(), block);
         QCOMPARE(probe.mySyntaxError(), block); // asking changes nothing

@@ -102,7 +102,7 @@ public:
                 Numbers<Item>::set(*items.last(), value);
         }
         (m_object.*Set)(items);
-        for (Item* item : qAsConst(items)) {
+        for (Item* item : std::as_const(items)) {
             if (item)
                 Numbers<Item>::set(*item, 99.0); // still the caller's
             delete item;
@@ -740,7 +740,7 @@ private Q_SLOTS:
         QFETCH(QString, children);
         QFETCH(QString, error);
         QString xml = QStringLiteral("<P>");
-        for (const QChar child : qAsConst(children)) {
+        for (const QChar child : std::as_const(children)) {
             xml += child == QLatin1Char('F') ? frequencyXml
                 : child == QLatin1Char('T')  ? thresholdXml
                                              : QStringLiteral("<Other></Other>");

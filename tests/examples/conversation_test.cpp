@@ -549,7 +549,7 @@ void ConversationTest::everyCommandOfADocumentIsAnswered()
              (QStringList{QStringLiteral("several-1 final"), QStringLiteral("several-2 estimate"),
                           QStringLiteral("several-2 final"), QStringLiteral("several-3 estimate"),
                           QStringLiteral("several-3 final")}));
-    QTRY_COMPARE_WITH_TIMEOUT(service.log().count(QLatin1Char('\n')), 1, patienceMs);
+    QVERIFY(QTest::qWaitFor([&] { return service.log().count(QLatin1Char('\n')) == 1; }, patienceMs));
 }
 
 void ConversationTest::everyCommandOfABadDocumentIsRefused()
@@ -714,10 +714,12 @@ void ConversationTest::createAndDeleteAreAnsweredOnce()
         QCOMPARE(root.autoResp()->reference().reference(), QString::fromLatin1(reference));
         QVERIFY(qAbs(root.autoResp()->estimatedTime().secsTo(QDateTime::currentDateTime())) < patienceMs / 1000);
     }
-    QTRY_VERIFY_WITH_TIMEOUT(
-        service.log().contains(QLatin1String(
-            "answered with: created (reference first), deleted (reference second), deleted (reference third)\n")),
-        patienceMs);
+    QVERIFY(QTest::qWaitFor(
+        [&] {
+            return service.log().contains(QLatin1String(
+                "answered with: created (reference first), deleted (reference second), deleted (reference third)\n"));
+        },
+        patienceMs));
 }
 
 void ConversationTest::possibleSitesDeliverAStation()
@@ -988,11 +990,13 @@ void ConversationTest::everyModelIsNamedInTheResult()
     QVERIFY2(run.output.contains(QStringLiteral("The link from A to B is feasible, calculated with %1.\n").arg(model)),
              qPrintable(run.output));
     QCOMPARE(run.status, 0);
-    QTRY_VERIFY_WITH_TIMEOUT(
-        service.log().contains(
-            QStringLiteral("answered with: model %1 (reference m), interlink result with %1 (reference l)\n")
-                .arg(model)),
-        patienceMs);
+    QVERIFY(QTest::qWaitFor(
+        [&] {
+            return service.log().contains(
+                QStringLiteral("answered with: model %1 (reference m), interlink result with %1 (reference l)\n")
+                    .arg(model));
+        },
+        patienceMs));
 }
 
 void ConversationTest::theModelChosenLastIsKept()

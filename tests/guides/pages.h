@@ -37,7 +37,7 @@ inline Page read(const QString& path)
         return page;
     QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
     bool isInside = false;
-    for (const QString& line : qAsConst(lines)) {
+    for (const QString& line : std::as_const(lines)) {
         const bool isFence = line.startsWith(QLatin1String("```"));
         page.prose.append(isFence || isInside ? QString() : line);
         if (isFence && !isInside)

@@ -15,7 +15,7 @@ fail() {
 
 symbols=$(nm -D --defined-only --demangle "$library" | sed 's/^[0-9a-f]* . //')
 
-hidden='ElementForm|ElementReader|EnumerationTexts|EnumerationRules|QuantityRules|Content|Row|InnerEnd'
+hidden='ElementForm|ElementReader|EnumerationTexts|EnumerationRules|QuantityRules|Content|Row|InnerEnd|NeverDestroyed'
 if grep -E "^ArvXml::($hidden)(::|$)" <<<"$symbols"; then
     fail "machinery is visible"
 fi
@@ -26,6 +26,14 @@ for class in XmlFreqType XmlCmdRoot XmlRespRoot; do
     grep -q "^ArvXml::$class::$class()" <<<"$symbols" || fail "$class is not visible"
 done
 echo "ok: only the interface is visible"
+
+# Elements are used to the last moment of a program: there must be nothing that would be gone by then. (Where coverage
+# is counted, the counting has something to do at the end.)
+if ! grep -q __llvm_profile_ <<<"$(nm "$library")" &&
+    nm -D --undefined-only "$library" | grep -E '__cxa_(thread_)?atexit'; then
+    fail "the library destroys something at the end of the program or of a thread"
+fi
+echo "ok: nothing is destroyed at the end"
 
 # Left out are weak functions (W): inline functions and templates, which a program has in itself, and which compilers
 # put into the library or not as they please. Tables of virtual functions and type information (V) are weak too, but every

@@ -512,7 +512,7 @@ private Q_SLOTS:
         // Alone, and with any other child behind it.
         QStringList ends = kind->tags();
         ends.append(QString());
-        for (const QString& end : qAsConst(ends)) {
+        for (const QString& end : std::as_const(ends)) {
             QStringList tags = start;
             if (!end.isEmpty())
                 tags.append(end);
@@ -647,7 +647,7 @@ private Q_SLOTS:
             QCOMPARE(invalid->syntaxError(), kind->problems(tags, tags));
 
             // Each child alone is enough.
-            for (const QString& tag : qAsConst(tags)) {
+            for (const QString& tag : std::as_const(tags)) {
                 const auto element = kind->make();
                 QCOMPARE(readError(*element, kind->document(tags, {tag})), QString());
                 QVERIFY2(!element->isValid(), qPrintable(tag));
@@ -693,7 +693,7 @@ private Q_SLOTS:
             // The others are theirs alone, whatever becomes of the source.
             fill(*source, sourceHas, true);
             kind->reset(*source);
-            for (const auto& other : qAsConst(others)) {
+            for (const auto& other : std::as_const(others)) {
                 QCOMPARE(written(*other, QStringLiteral("S")), xml);
                 QCOMPARE(other->syntaxError(), problems);
             }

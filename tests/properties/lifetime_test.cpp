@@ -1,4 +1,5 @@
 #include "support/effort.h"
+#include "support/failingmemory.h"
 #include "support/generator.h"
 
 #include <QtCore/QSet>
@@ -7,7 +8,8 @@
 #include <optional>
 
 /// \file
-/// Elements that are given what is their own, outlive others, are read into while in use, and are moved about.
+/// Elements that are given what is their own, outlive others, are read into while in use, are moved about, and run out
+/// of memory.
 
 using namespace ArvXml;
 using Generator::ChildOf;
@@ -641,12 +643,203 @@ private:
     bool m_isOptional = false;
 };
 
+// Operations that run out of memory
+
+/// Tries \a operation on copies of \a original, each time with one allocation more, until it succeeds. Whenever it
+/// fails, nothing is lost, and the element can still be used.
+template <typename T, typename Operation>
+void tryWithoutMemory(const T& original, Operation operation, const char* name)
+{
+    bool isDone = false;
+    for (long allowed = 0; !isDone; ++allowed) {
+        const long before = FailingMemory::held();
+        {
+            T object(original);
+            isDone = FailingMemory::run(allowed, [&] { operation(object); });
+            use(object);
+            object = original;
+            Samples::reset(object);
+        }
+        QVERIFY2(FailingMemory::held() == before, name);
+    }
+}
+
+/// The same with reading a document. The stream is made beforehand: Qt's constructor loses memory when it fails.
+template <typename T>
+void tryReadingWithoutMemory(const T& original, const QString& xml, const char* name)
+{
+    bool isDone = false;
+    for (long allowed = 0; !isDone; ++allowed) {
+        QXmlStreamReader reader(xml);
+        reader.readNextStartElement();
+        const QString ownTag = reader.name().toString();
+        const long before = FailingMemory::held();
+        {
+            T object(original);
+            isDone = FailingMemory::run(allowed, [&] { object.processXml(reader, ownTag); });
+            if constexpr (std::is_same_v<T, XmlAreaPolyType>) {
+                const QVector<XmlNumCoordType*> vertices = object.vertices();
+                const auto comesBefore = [](auto* a, auto* b) { return a->number() < b->number(); };
+                QVERIFY(std::is_sorted(vertices.begin(), vertices.end(), comesBefore));
+            }
+            use(object);
+        }
+        QVERIFY2(FailingMemory::held() == before, name);
+    }
+}
+
+/// Hands everything that an element holds to the setters of another of its class, without memory for it.
+template <typename T>
+class SettingWithoutMemory : public Visitor<SettingWithoutMemory<T>> {
+public:
+    SettingWithoutMemory(const T& source, const T& target)
+        : m_source(source)
+        , m_target(target)
+    {
+    }
+    template <typename Get, typename Set>
+    void child(const char* name, Get get, Set set)
+    {
+        if (const auto* held = pointerTo(std::invoke(get, m_source)))
+            tryWithoutMemory(
+                m_target, [&](T& object) { std::invoke(set, object, *held); }, name);
+    }
+    template <typename Get, typename Set, typename Rule>
+    void value(const char* name, Get get, Set set, const Rule&)
+    {
+        tryWithoutMemory(
+            m_target, [&](T& object) { std::invoke(set, object, std::invoke(get, m_source)); }, name);
+    }
+    template <typename Has, typename Get, typename Set, typename Rule>
+    void parameter(const char* name, Has, Get get, Set set, const Rule& rule)
+    {
+        value(name, get, set, rule);
+    }
+    template <typename Get, typename Set>
+    void list(const char* name, Get get, Set set)
+    {
+        const auto items = std::invoke(get, m_source);
+        const QString before = shown(m_target);
+        bool isDone = false;
+        for (long allowed = 0; !isDone; ++allowed) {
+            T object(m_target);
+            isDone = FailingMemory::run(allowed, [&] { std::invoke(set, object, items); });
+            if (!isDone)
+                QVERIFY2(shown(object) == before, name); // a list is replaced as a whole, or not at all
+        }
+        tryWithoutMemory(
+            m_target, [&](T& object) { std::invoke(set, object, items); }, name);
+    }
+    template <typename Get, typename Add>
+    void added(const char* name, Get get, Add add)
+    {
+        const auto& items = std::invoke(get, m_source);
+        if (!items.isEmpty())
+            tryWithoutMemory(
+                m_target, [&](T& object) { std::invoke(add, object, *items.first()); }, name);
+    }
+    template <typename Get>
+    void held(const char*, Get)
+    {
+    }
+    template <typename Get>
+    void heldOne(const char*, Get)
+    {
+    }
+
+private:
+    const T& m_source;
+    const T& m_target;
+};
+
 } // namespace
 
 class LifetimeTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    /// The first of all, so that the tables of the classes, which are made when they are first used, run out of memory.
+    void memoryRunsOutForTables()
+    {
+        Samples::forEachClass([](auto type, const char* name) {
+            using T = typename decltype(type)::Type;
+            const auto isDoneWith = [](long allowed) {
+                QString xml;
+                QXmlStreamWriter writer(&xml);
+                return FailingMemory::run(allowed, [&writer] {
+                    T element = Generator::newObject<T>(true);
+                    element.syntaxError();
+                    element.produceXml(writer, tag());
+                    Samples::reset(element);
+                });
+            };
+            long allowed = 0;
+            while (!isDoneWith(allowed))
+                ++allowed;
+            const long held = FailingMemory::held();
+            QVERIFY2(isDoneWith(-1), name);
+            QVERIFY2(FailingMemory::held() == held, name); // only the tables stay
+        });
+    }
+
+    void memoryRunsOut()
+    {
+        Samples::forEachClass([](auto type, const char*) {
+            using T = typename decltype(type)::Type;
+            for (const Samples::Sample& sample : Samples::samplesOf<T>()) { // makes all tables, which stay
+                T element = Generator::newObject<T>(true);
+                ElementTest::readError(element, sample.xml);
+                use(element);
+            }
+        });
+        Samples::forEachClass([](auto type, const char* name) {
+            using T = typename decltype(type)::Type;
+            const T fresh = Generator::newObject<T>(true);
+            const T used = generated<T>(1, Validity::Faulty);
+            for (const int number : {3, 8}) {
+                const T source = generated<T>(number, Validity::Faulty);
+                for (const T* target : {&fresh, &used}) {
+                    tryWithoutMemory(
+                        *target, [&](T& object) { object = source; }, name);
+                    SettingWithoutMemory<T> setting(source, *target);
+                    visit<T>(setting);
+                }
+                tryWithoutMemory(
+                    source, [](T& object) { T copy(object); }, name);
+                tryWithoutMemory(
+                    source, [](T& object) { object = T(std::move(object)); }, name);
+                tryWithoutMemory(
+                    source, [](T& object) { object.isValid(); }, name);
+                tryWithoutMemory(
+                    source, [](T& object) { object.syntaxError(); }, name);
+                tryWithoutMemory(
+                    source, [](T& object) { Samples::reset(object); }, name);
+                QString xml;
+                QXmlStreamWriter writer(&xml);
+                tryWithoutMemory(
+                    source, [&](T& object) { object.produceXml(writer, tag()); }, name);
+            }
+            for (const Samples::Sample& sample : Samples::samplesOf<T>()) {
+                tryReadingWithoutMemory(fresh, sample.xml, name);
+                tryReadingWithoutMemory(used, sample.xml, name);
+            }
+        });
+    }
+
+    void verticesStayInOrderWithoutMemory()
+    {
+        const QString xml = QStringLiteral("<A version='1.0'>%1%2%3</A>");
+        const auto vertex = [](int number) {
+            return QStringLiteral("<Vertex version='1.0' number='%1'><Longitude>8</Longitude><Latitude>47</Latitude>"
+                                  "</Vertex>")
+                .arg(number);
+        };
+        XmlAreaPolyType polygon;
+        QCOMPARE(ElementTest::readError(polygon, xml.arg(vertex(8), vertex(4), vertex(2))), QString());
+        tryReadingWithoutMemory(polygon, xml.arg(vertex(9), vertex(5), vertex(1)), "between those held");
+        tryReadingWithoutMemory(XmlAreaPolyType(), xml.arg(vertex(5), vertex(3), vertex(1)), "in a new polygon");
+    }
+
     void ownThings()
     {
         Samples::forEachClass([](auto type, const char* name) {

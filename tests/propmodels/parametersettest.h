@@ -825,7 +825,7 @@ private Q_SLOTS:
         for (int parameter = 0; parameter < size(); ++parameter)
             names.removeAll(row(parameter).tag);
         names.removeDuplicates();
-        for (const QString& name : qAsConst(names)) {
+        for (const QString& name : std::as_const(names)) {
             QTest::newRow(rowName(name + QLatin1String(" as the first child")).constData()) << name << QString();
             QTest::newRow(rowName(name + QLatin1String(" after a parameter")).constData())
                 << name << asRead(0, row(0).sample());
@@ -880,7 +880,7 @@ private Q_SLOTS:
             }
             texts.removeDuplicates();
             int number = 0;
-            for (const QString& bad : qAsConst(texts)) {
+            for (const QString& bad : std::as_const(texts)) {
                 const QString name = failing.tag + QLatin1String(" \"") + bad + QLatin1Char('"');
                 QTest::newRow(rowName(name, number).constData()) << parameter << bad << false;
                 QTest::newRow(rowName(name + QLatin1String(" after the others"), number++).constData())

@@ -12,6 +12,8 @@ using namespace ResponseTest;
 using TestValues::reference;
 using TestValues::someTime;
 using TestValues::text;
+using TestValues::timeAhead;
+using TestValues::timeInUtc;
 
 namespace {
 
@@ -508,9 +510,8 @@ void AutomaticresponseTest::writtenTime_data()
     const QDate day(2024, 3, 5);
     QTest::newRow("local") << QDateTime(day, QTime(14, 7, 9)) << text("2024-03-05T14:07:09");
     QTest::newRow("without the fraction") << QDateTime(day, QTime(14, 7, 9, 999)) << text("2024-03-05T14:07:09");
-    QTest::newRow("UTC") << QDateTime(day, QTime(14, 7, 9), Qt::UTC) << text("2024-03-05T14:07:09Z");
-    QTest::newRow("with an offset") << QDateTime(day, QTime(14, 7, 9), Qt::OffsetFromUTC, 5400)
-                                    << text("2024-03-05T14:07:09+01:30");
+    QTest::newRow("UTC") << timeInUtc(day, QTime(14, 7, 9)) << text("2024-03-05T14:07:09Z");
+    QTest::newRow("with an offset") << timeAhead(day, QTime(14, 7, 9), 5400) << text("2024-03-05T14:07:09+01:30");
 }
 
 void AutomaticresponseTest::writtenTime()
@@ -714,9 +715,8 @@ void AutomaticresponseTest::timeRead_data()
     const QDate day(2024, 3, 5);
     QTest::newRow("local") << text("2024-03-05T14:07:09") << QDateTime(day, QTime(14, 7, 9));
     QTest::newRow("with a fraction") << text("2024-03-05T14:07:09.042") << QDateTime(day, QTime(14, 7, 9, 42));
-    QTest::newRow("UTC") << text("2024-03-05T14:07:09Z") << QDateTime(day, QTime(14, 7, 9), Qt::UTC);
-    QTest::newRow("with an offset") << text("2024-03-05T14:07:09+01:30")
-                                    << QDateTime(day, QTime(14, 7, 9), Qt::OffsetFromUTC, 5400);
+    QTest::newRow("UTC") << text("2024-03-05T14:07:09Z") << timeInUtc(day, QTime(14, 7, 9));
+    QTest::newRow("with an offset") << text("2024-03-05T14:07:09+01:30") << timeAhead(day, QTime(14, 7, 9), 5400);
     QTest::newRow("another form") << text("05.03.2024 14:07:09") << QDateTime();
     QTest::newRow("no such day") << text("2024-02-30T14:07:09") << QDateTime();
     QTest::newRow("no such hour") << text("2024-03-05T25:07:09") << QDateTime();

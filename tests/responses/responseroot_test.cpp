@@ -1,11 +1,14 @@
 #include "support/elementtest.h"
+#include "support/qtversion.h"
 #include "support/responsetest.h"
 #include "support/values.h"
 
 #include <arvxml/responseroot.h>
 
+#include <QtCore/QLocale>
 #include <QtCore/QRegularExpression>
 
+#include <time.h>
 #include <type_traits>
 #include <utility>
 
@@ -14,12 +17,42 @@ using namespace ResponseTest;
 using TestValues::envelope;
 using TestValues::someTime;
 using TestValues::text;
+using TestValues::timeAhead;
+using TestValues::timeInUtc;
 
 namespace {
 
 /// Shows the error text that is kept in the element.
 struct Probe : XmlRespRoot {
     using XmlElementBase::mySyntaxError;
+};
+
+/// Sets the zone of local times, and the old one again in the end.
+class Zone {
+public:
+    explicit Zone(const char* zone)
+        : m_before(qgetenv("TZ"))
+        , m_wasSet(qEnvironmentVariableIsSet("TZ"))
+    {
+        set(zone);
+    }
+    ~Zone()
+    {
+        if (!m_wasSet)
+            qunsetenv("TZ");
+        else
+            qputenv("TZ", m_before);
+        tzset();
+    }
+    static void set(const char* zone)
+    {
+        qputenv("TZ", zone);
+        tzset();
+    }
+
+private:
+    const QByteArray m_before;
+    const bool m_wasSet;
 };
 
 /// A valid response; without a reference it is not.
@@ -115,6 +148,8 @@ private Q_SLOTS:
     void finalRead();
     void timestampRead_data();
     void timestampRead();
+    void timeThatSummerTimeLeavesOut();
+    void timeOfMakingIsLocal();
     void severalWrongAttributes_data();
     void severalWrongAttributes();
     void children_data();
@@ -293,10 +328,10 @@ void ResponserootTest::written_data()
     const QTime time(14, 7, 9, 999);
     QTest::newRow("undefined") << 0 << true << QDateTime(day, time) << QString()
                                << text("<R type=\"UNDEFINED\" final=\"true\" timestamp=\"2024-03-05T14:07:09\"/>");
-    QTest::newRow("interactive") << 1 << false << QDateTime(day, time, Qt::UTC) << QString()
+    QTest::newRow("interactive") << 1 << false << timeInUtc(day, time) << QString()
                                  << text(
                                         "<R type=\"interactive\" final=\"false\" timestamp=\"2024-03-05T14:07:09Z\"/>");
-    QTest::newRow("automatic") << 2 << true << QDateTime(day, time, Qt::OffsetFromUTC, -3600) << QString()
+    QTest::newRow("automatic") << 2 << true << timeAhead(day, time, -3600) << QString()
                                << text(
                                       "<R type=\"automatic\" final=\"true\" timestamp=\"2024-03-05T14:07:09-01:00\"/>");
     QTest::newRow("a type above the known ones, no time")
@@ -352,7 +387,7 @@ void ResponserootTest::newObjectIsNotReadBack()
                                        "timestamp=\"(\\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\d)\"/>$"));
     const QRegularExpressionMatch match = form.match(xml);
     QVERIFY(match.hasMatch());
-    QCOMPARE(match.captured(1), root.timestamp().toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss")));
+    QCOMPARE(match.captured(1), QLocale::c().toString(root.timestamp(), QStringLiteral("yyyy-MM-ddTHH:mm:ss")));
 
     XmlRespRoot other;
     QCOMPARE(ElementTest::readError(other, xml),
@@ -432,9 +467,8 @@ void ResponserootTest::timestampRead_data()
     QTest::newRow("local") << text("timestamp=\"2024-03-05T14:07:09\"") << QDateTime(day, time);
     QTest::newRow("with a fraction") << text("timestamp=\"2024-03-05T14:07:09.042\"")
                                      << QDateTime(day, QTime(14, 7, 9, 42));
-    QTest::newRow("UTC") << text("timestamp=\"2024-03-05T14:07:09Z\"") << QDateTime(day, time, Qt::UTC);
-    QTest::newRow("with an offset") << text("timestamp=\"2024-03-05T14:07:09-01:00\"")
-                                    << QDateTime(day, time, Qt::OffsetFromUTC, -3600);
+    QTest::newRow("UTC") << text("timestamp=\"2024-03-05T14:07:09Z\"") << timeInUtc(day, time);
+    QTest::newRow("with an offset") << text("timestamp=\"2024-03-05T14:07:09-01:00\"") << timeAhead(day, time, -3600);
     for (const char* wrong : {"now", "", "05.03.2024 14:07:09", "2024-02-30T14:07:09", "2024-03-05T25:07:09"})
         QTest::addRow("'%s' is refused", wrong) << QStringLiteral("timestamp=\"%1\"").arg(text(wrong)) << QDateTime();
     QTest::newRow("a missing attribute is refused") << QString() << QDateTime();
@@ -456,6 +490,57 @@ void ResponserootTest::timestampRead()
         QCOMPARE(root.timestamp().timeSpec(), time.timeSpec());
     }
     QVERIFY(!root.isFinal());
+}
+
+void ResponserootTest::timeThatSummerTimeLeavesOut()
+{
+    // A text without a zone is local time to its reader. Where clocks go from two to three, half past two is none.
+    const Zone zone("CET-1CEST,M3.5.0,M10.5.0/3");
+    const auto read = [](XmlRespRoot& root, const char* time) {
+        return ElementTest::readError(
+            root, QStringLiteral("<R type=\"automatic\" final=\"true\" timestamp=\"%1\"/>").arg(text(time)));
+    };
+    XmlRespRoot root;
+    QCOMPARE(read(root, "2024-03-31T01:59:59"), QString());
+    QCOMPARE(root.timestamp(), timeInUtc(QDate(2024, 3, 31), QTime(0, 59, 59)));
+    QCOMPARE(read(root, "2024-03-31T03:00:00"), QString());
+    QCOMPARE(root.timestamp(), timeInUtc(QDate(2024, 3, 31), QTime(1, 0)));
+
+    const QString error = read(root, "2024-03-31T02:30:00");
+    if (!isQtFrom(6, 8)) {
+        QCOMPARE(error,
+                 QStringLiteral("in XmlRespRoot (line 1, column 66): Illegal attribute value in \"timestamp\"."));
+        QVERIFY(!root.timestamp().isValid());
+    } else { // an hour later by the clock
+        QCOMPARE(error, QString());
+        QCOMPARE(root.timestamp(), timeInUtc(QDate(2024, 3, 31), QTime(1, 30)));
+    }
+    // With its zone told, the time is clear to every reader.
+    QCOMPARE(read(root, "2024-03-31T02:30:00Z"), QString());
+    QCOMPARE(root.timestamp(), timeInUtc(QDate(2024, 3, 31), QTime(2, 30)));
+    root.setTimestamp(timeInUtc(QDate(2024, 3, 31), QTime(2, 30)));
+    QCOMPARE(ElementTest::written(root, text("R")),
+             QStringLiteral("<R type=\"automatic\" final=\"true\" timestamp=\"2024-03-31T02:30:00Z\"/>"));
+}
+
+void ResponserootTest::timeOfMakingIsLocal()
+{
+    // From the first moment on, also where the getter is not asked, and whatever becomes of the zone.
+    const Zone zone("XXX-5:30");
+    const QDateTime before = QDateTime::currentDateTime();
+    XmlRespRoot root;
+    const QDateTime& held = root.timestamp();
+    Zone::set("UTC");
+    QCOMPARE(held.timeSpec(), Qt::LocalTime);
+    QCOMPARE(held.time(), root.timestamp().time());
+    QVERIFY(qAbs(before.time().msecsTo(held.time())) < 60000 || before.date() != held.date());
+
+    Zone::set("XXX-5:30");
+    root.reset();
+    QCOMPARE(held.timeSpec(), Qt::LocalTime); // a reference from before the reset
+    root = XmlRespRoot();
+    QCOMPARE(held.timeSpec(), Qt::LocalTime);
+    QVERIFY(qAbs(held.secsTo(QDateTime::currentDateTime())) < 60);
 }
 
 void ResponserootTest::severalWrongAttributes_data()

@@ -658,7 +658,7 @@ void ResultinfoTest::order()
         for (const QString& second : tags)
             sequences.append(start + QStringList({first, second}));
     }
-    for (const QStringList& sequence : qAsConst(sequences)) {
+    for (const QStringList& sequence : std::as_const(sequences)) {
         QString xml = QStringLiteral("<R>\n");
         for (const QString& tag : sequence)
             xml += childXml(tag) + QLatin1Char('\n');

@@ -50,7 +50,7 @@ bool isNoWord(const QString& literal)
 {
     static const QRegularExpression form(QStringLiteral(
         R"re(^Xml\w+|%[1-9]|^(Has|If|Illegal|Invalid|Missing|Must|Neither|No|Only|Unexpected|Version) )re"
-        R"re(|^(Too|Type) .* |^Type not |^Uninitialized\.$|^[dyM][dyMhmsz:T-]+$|)re"
+        R"re(|^(Too|Type) .* |^Type not |^Uninitialized\.$|^d[dT:-]+$|^(%0[2-4]d[T:-]?)+$|)re"
         R"re( (is empty|not defined\.|not set\.?|out of bounds|\((min|max)\. [0-9]+\)\.?|\(wrong position\))$)re"));
     return form.match(literal).hasMatch();
 }

@@ -560,7 +560,7 @@ void SnapshotTest::order()
     // Alone, and with any third behind them; each on a line of its own
     QStringList thirds = tags;
     thirds.append(QString());
-    for (const QString& third : qAsConst(thirds)) {
+    for (const QString& third : std::as_const(thirds)) {
         QStringList sequence = {first, second};
         if (!third.isEmpty())
             sequence.append(third);

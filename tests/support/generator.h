@@ -261,9 +261,9 @@ struct Moment {
         const QTime time(random.between(9, 20), random.below(60), random.below(60), random.below(1000));
         switch (random.below(4)) {
         case 0:
-            return QDateTime(date, time, Qt::UTC);
+            return TestValues::timeInUtc(date, time);
         case 1:
-            return QDateTime(date, time, Qt::OffsetFromUTC, 60 * random.between(-720, 720));
+            return TestValues::timeAhead(date, time, 60 * random.between(-720, 720));
         default:
             return QDateTime(date, time);
         }

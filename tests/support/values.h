@@ -6,6 +6,7 @@
 
 #include <QtCore/QDateTime>
 #include <QtCore/QString>
+#include <QtCore/QTimeZone>
 
 /// \file
 /// Small values that the tests of several families need.
@@ -22,6 +23,21 @@ inline QString text(const char* latin1)
 inline QDateTime someTime()
 {
     return QDateTime(QDate(2024, 3, 5), QTime(14, 7, 9));
+}
+
+/// A time so many seconds ahead of UTC.
+inline QDateTime timeAhead(QDate date, QTime time, int seconds)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
+    return QDateTime(date, time, QTimeZone::fromSecondsAheadOfUtc(seconds));
+#else
+    return QDateTime(date, time, Qt::OffsetFromUTC, seconds);
+#endif
+}
+/// A time in UTC.
+inline QDateTime timeInUtc(QDate date, QTime time)
+{
+    return timeAhead(date, time, 0);
 }
 
 /// A reference with this text.
