@@ -13,6 +13,19 @@ install(TARGETS arvxml EXPORT ${arvxml_package}Targets
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/arvxml ${PROJECT_BINARY_DIR}/include/arvxml
     DESTINATION ${arvxml_include_dir} COMPONENT development)
 
+# Who links a static library links what it needs as well.
+get_target_property(arvxml_type arvxml TYPE)
+set(arvxml_pc_requires "${arvxml_qt}Core >= ${arvxml_qt_version}")
+set(arvxml_pc_requires_private "${arvxml_qt}Network >= ${arvxml_qt_version}")
+if(arvxml_type STREQUAL STATIC_LIBRARY)
+    set(arvxml_qt_components "Core Network")
+    string(APPEND arvxml_pc_requires ", ${arvxml_pc_requires_private}")
+    set(arvxml_pc_definitions " -DARVXML_STATIC")
+else()
+    set(arvxml_qt_components Core)
+    set(arvxml_pc_definitions "")
+endif()
+
 set(arvxml_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/${arvxml_package})
 install(EXPORT ${arvxml_package}Targets NAMESPACE ${arvxml_package}:: DESTINATION ${arvxml_package_dir}
     COMPONENT development)

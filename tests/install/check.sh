@@ -3,7 +3,7 @@
 # with CMake, with pkg-config, and the first program of the README, copied from the page.
 set -euo pipefail
 
-source_dir=$1 build_dir=$2 work_dir=$3 compiler=$4 generator=$5 qt=$6 sanitizers=$7
+source_dir=$1 build_dir=$2 work_dir=$3 compiler=$4 generator=$5 qt=$6 type=$7 sanitizers=$8
 flags=()
 if [ -n "$sanitizers" ]; then
     flags=("-fsanitize=$sanitizers")
@@ -24,9 +24,13 @@ expect "the folders of the headers" "$include_folder/arvxml" \
     "$(cd "$prefix" && find include -name '*.h' -printf '%h\n' | sort -u)"
 expect "every other file is named after its Qt" "" \
     "$(cd "$prefix" && find . -type f -not -path './include/*' -not -path "*/cmake/$package/$package*.cmake" \
-        -not -name "lib$name.so.1.0.0" -not -name "$name.pc")"
+        -not -name "lib$name.so.1.0.0" -not -name "lib$name.a" -not -name "$name.pc")"
 
-expect_libraries "$library_dir"
+if [ "$type" = STATIC_LIBRARY ]; then
+    expect "the library" "lib$name.a" "$(cd "$library_dir" && find . -maxdepth 1 -name 'lib*' -printf '%f\n')"
+else
+    expect_libraries "$library_dir"
+fi
 expect_cmake -DCMAKE_PREFIX_PATH="$prefix"
 export PKG_CONFIG_PATH=${pkgconfig_file%/*} LD_LIBRARY_PATH=$library_dir
 expect_pkgconfig

@@ -61,8 +61,9 @@ expect_cmake() {
 
 # build_with_pkgconfig SOURCE PROGRAM: a program is compiled with what pkg-config says, and nothing else.
 build_with_pkgconfig() {
-    # shellcheck disable=SC2046 # one argument for each word is what pkg-config means
-    "$compiler" -std=c++17 -fPIC "${flags[@]}" "$1" -o "$2" $(pkg-config --cflags --libs "$name")
+    local arguments
+    eval "arguments=($(pkg-config --cflags --libs "$name"))" # it quotes for the shell: a path may have blanks
+    "$compiler" -std=c++17 -fPIC "${flags[@]}" "$1" -o "$2" "${arguments[@]}"
 }
 
 # expect_pkgconfig: pkg-config finds the library, and programs are built so.

@@ -15,7 +15,8 @@ check() {
     build_dir=$work_dir/$1-$2
     # Configured anew, but what was built is kept, so that only what has changed is built again.
     rm -rf "$build_dir"/{CMakeCache.txt,prefix}
-    configure subproject "$build_dir" -DHOW="$how" -DFIND_QT="$2" -DARVXML_SOURCES="$source_dir" -DQT="$qt"
+    configure subproject "$build_dir" -DHOW="$how" -DFIND_QT="$2" -DARVXML_SOURCES="$source_dir" -DQT="$qt" \
+        -DCMAKE_UNITY_BUILD=ON
     echo "ok: $how changes nothing"
     expect "$how brings no tests" "Total Tests: 1" "$(ctest --test-dir "$build_dir" -N | grep Total)"
     cmake --install "$build_dir" --prefix "$build_dir/prefix" >>"$build_dir.log"
