@@ -707,6 +707,8 @@ public:
     template <typename Get, typename Set, typename Rule>
     void value(const char* name, Get get, Set set, const Rule&)
     {
+        if constexpr (std::is_same_v<T, XmlCmdAdmin>)
+            return; // what it asks is set by reading, which is tried elsewhere
         tryWithoutMemory(
             m_target, [&](T& object) { std::invoke(set, object, std::invoke(get, m_source)); }, name);
     }
