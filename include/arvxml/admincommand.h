@@ -32,11 +32,9 @@ public:
 
 protected:
     void addErrors() override;
-    const ElementForm& form() const override;
 
 private:
-    void writeQuery(QXmlStreamWriter& writer, const QString& tag) const;
-    void setQueryVersion() { m_command = AdminQueryVersion; }
+    const ContentModel& contentModel() const override;
 
     AdminCmd m_command = AdminUndefined;
 };

@@ -3,7 +3,7 @@
 /// \file
 /// Deployment areas and areas of interest.
 
-#include "arvxml/element.h"
+#include "arvxml/composite.h"
 #include "arvxml/geometry.h"
 #include "arvxml/names.h"
 #include "arvxml/quantities.h"
@@ -35,14 +35,7 @@ public:
 protected:
     using XmlVersionedComposite::XmlVersionedComposite;
 
-    /// The rectangle's child; it judges and reports the choice.
-    static Content areaRectChild();
-    /// The polygon's child, reported with the rectangle's.
-    static Content areaPolyChild();
-
     XmlObjNameType m_objName;
-
-private:
     OptionalChild<XmlAreaRectType> m_areaRect;
     OptionalChild<XmlAreaPolyType> m_areaPoly;
 };
@@ -86,10 +79,9 @@ public:
     const XmlPowerType* txPower() const { return &m_txPower; }
     void setTxPower(const XmlPowerType& power) { m_txPower = power; }
 
-protected:
-    const ElementForm& form() const override;
-
 private:
+    const ContentModel& contentModel() const override;
+
     OptionalChild<XmlSignalPathType> m_signalPath;
     XmlLengthType m_antennaHeight;
     XmlFieldstrengthType m_rxThreshold;
@@ -125,10 +117,9 @@ public:
     /// to whoever kept its pointer.
     void reset() override;
 
-protected:
-    const ElementForm& form() const override;
-
 private:
+    const ContentModel& contentModel() const override;
+
     XmlTxParamType m_txParam;
     OptionalChild<XmlFieldstrengthType> m_rxThreshold;
 };

@@ -3,7 +3,7 @@
 /// \file
 /// The service's answer to one command.
 
-#include "arvxml/element.h"
+#include "arvxml/composite.h"
 #include "arvxml/gridresult.h"
 #include "arvxml/interlinkresult.h"
 #include "arvxml/names.h"
@@ -85,11 +85,9 @@ public:
 
 protected:
     void addErrors() override;
-    const ElementForm& form() const override;
-    quint32 openElement(ElementReader& in) override;
 
 private:
-    void takeEstimatedTime(const QString& text, ElementReader& in);
+    const ContentModel& contentModel() const override;
 
     RespStatus m_status = StatusUndefined;
     XmlReferenceType m_reference;

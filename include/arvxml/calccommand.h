@@ -49,10 +49,9 @@ public:
     bool hasBestSensor() const { return m_bestSensor.isPresent(); }
     void setBestSensor(const XmlBestSensorType& order) { m_bestSensor.set(order); }
 
-protected:
-    const ElementForm& form() const override;
-
 private:
+    const ContentModel& contentModel() const override;
+
     OptionalChild<XmlFindSitesType> m_findSites;
     OptionalChild<XmlCepType> m_cep;
     OptionalChild<XmlDetectProbType> m_detectProb;

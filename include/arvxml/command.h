@@ -3,7 +3,7 @@
 /// \file
 /// What all commands have in common.
 
-#include "arvxml/element.h"
+#include "arvxml/composite.h"
 #include "arvxml/names.h"
 #include "arvxml/orderdef.h"
 
@@ -47,12 +47,6 @@ protected:
     using XmlCommand::XmlCommand;
 
     void addErrors() override;
-
-    /// The reference: it is no part of the choice, and reported before it, though written behind it.
-    static Content referenceChild();
-
-private:
-    bool holdsExactlyOne() const;
 };
 
 } // namespace ArvXml

@@ -49,15 +49,8 @@ public:
     /// The propagation model command, tag "PropagationModel"; null when absent. One read replaces the one held.
     const XmlPropModelType* getPropagationModelCmd() const { return m_propModel.get(); }
 
-protected:
-    const ElementForm& form() const override;
-
 private:
-    /// Commands of one kind, each handed a copy of the envelope.
-    template <auto Member>
-    static Content commands();
-    static Content propModelCommand();
-    void handEnvelope(XmlCommand& command) const;
+    const ContentModel& contentModel() const override;
 
     OptionalChild<XmlOrderDef> m_orderDef;
     OwnedList<XmlCmdAdmin> m_administrative;

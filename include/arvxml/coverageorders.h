@@ -3,7 +3,8 @@
 /// \file
 /// The calculation orders that ask for a result over areas of interest.
 
-#include "arvxml/element.h"
+#include "arvxml/composite.h"
+#include "arvxml/enumeration.h"
 #include "arvxml/names.h"
 #include "arvxml/resultgrid.h"
 
@@ -57,7 +58,7 @@ public:
     Prob prob() const { return static_cast<Prob>(m_value); }
     void setProb(Prob prob) { m_value = prob; }
 
-protected:
+private:
     const EnumerationRules& rules() const override;
 };
 
@@ -83,10 +84,9 @@ public:
     const XmlCepProbType* probability() const { return m_probability.get(); }
     void setProbability(const XmlCepProbType& probability) { m_probability.set(probability); }
 
-protected:
-    const ElementForm& form() const override;
-
 private:
+    const ContentModel& contentModel() const override;
+
     OptionalChild<XmlCepProbType> m_probability;
 };
 
@@ -106,8 +106,8 @@ public:
     const XmlNameAllMultiType* useRxDFs() const { return &m_sensors; }
     void setUseRxDFs(const XmlNameAllMultiType& sensors) { m_sensors = sensors; }
 
-protected:
-    const ElementForm& form() const override;
+private:
+    const ContentModel& contentModel() const override;
 };
 
 /// The order of the direction-finding coverage, the grid optional:
@@ -126,8 +126,8 @@ public:
     const XmlNameAllMultiType* useDFs() const { return &m_sensors; }
     void setUseDFs(const XmlNameAllMultiType& sensors) { m_sensors = sensors; }
 
-protected:
-    const ElementForm& form() const override;
+private:
+    const ContentModel& contentModel() const override;
 };
 
 /// The order of the best sensor coverage, the last two children optional:
@@ -152,10 +152,9 @@ public:
     const XmlObjNameType* comment() const { return m_comment.get(); }
     void setComment(const XmlObjNameType& comment) { m_comment.set(comment); }
 
-protected:
-    const ElementForm& form() const override;
-
 private:
+    const ContentModel& contentModel() const override;
+
     OptionalChild<XmlObjNameType> m_comment;
 };
 

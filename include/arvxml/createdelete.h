@@ -13,22 +13,13 @@
 
 namespace ArvXml {
 
-/// The base of the two commands on planning objects. Reading resets the command first, the envelope
-/// included.
-class ARVXML_EXPORT XmlObjectCommand : public XmlChoiceCommand {
-protected:
-    using XmlChoiceCommand::XmlChoiceCommand;
-
-    quint32 openElement(ElementReader& in) override;
-};
-
 /// The command to create or replace one planning object:
 /// `<Create><Emitter version="1.0">...</Emitter><Reference>42</Reference></Create>`.
 ///
 /// Exactly one object, then the reference; all objects held are written, in the order of the accessors below. A
 /// signal path is read under "Path" but written under "SignalPath", which the reader refuses: such a command cannot
 /// be read back.
-class ARVXML_EXPORT XmlCmdCreate : public XmlObjectCommand {
+class ARVXML_EXPORT XmlCmdCreate : public XmlChoiceCommand {
 public:
     XmlCmdCreate();
 
@@ -72,10 +63,9 @@ public:
     const XmlDeviceType* device() const { return m_device.get(); }
     void setDevice(const XmlDeviceType& object) { m_device.set(object); }
 
-protected:
-    const ElementForm& form() const override;
-
 private:
+    const ContentModel& contentModel() const override;
+
     OptionalChild<XmlDeploymentAreaType> m_deploymentArea;
     OptionalChild<XmlAoiType> m_aoi;
     OptionalChild<XmlEmitterType> m_emitter;
@@ -90,7 +80,7 @@ private:
 /// `<Delete><Emitter><Name>TX 1</Name></Emitter><Reference>42</Reference></Delete>`.
 ///
 /// Exactly one kind, then the reference; all kinds held are written, in the order of the accessors below.
-class ARVXML_EXPORT XmlCmdDelete : public XmlObjectCommand {
+class ARVXML_EXPORT XmlCmdDelete : public XmlChoiceCommand {
 public:
     XmlCmdDelete();
 
@@ -134,10 +124,9 @@ public:
     const XmlNameAllType* station() const { return m_station.get(); }
     void setStation(const XmlNameAllType& names) { m_station.set(names); }
 
-protected:
-    const ElementForm& form() const override;
-
 private:
+    const ContentModel& contentModel() const override;
+
     OptionalChild<XmlNameAllType> m_deploymentArea;
     OptionalChild<XmlNameAllType> m_aoi;
     OptionalChild<XmlNameAllType> m_emitter;

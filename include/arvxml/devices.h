@@ -3,7 +3,8 @@
 /// \file
 /// Devices on a signal path, and lengths by key.
 
-#include "arvxml/element.h"
+#include "arvxml/composite.h"
+#include "arvxml/enumeration.h"
 #include "arvxml/names.h"
 #include "arvxml/quantities.h"
 #include "arvxml/valuelists.h"
@@ -33,7 +34,7 @@ public:
     Category category() const { return static_cast<Category>(m_value); }
     void setCategory(Category category) { m_value = category; }
 
-protected:
+private:
     const EnumerationRules& rules() const override;
 };
 
@@ -105,10 +106,9 @@ public:
     bool hasDBM() const { return m_levels.isPresent(); }
     void setDBMList(const XmlDBMListType& levels) { m_levels.set(levels); }
 
-protected:
-    const ElementForm& form() const override;
-
 private:
+    const ContentModel& contentModel() const override;
+
     XmlDeviceCategoryType m_category;
     XmlObjNameType m_objName;
     XmlFreqListType m_frequencies;
@@ -130,10 +130,9 @@ public:
     const QList<XmlDeviceType*>& deviceList() const { return m_items.items(); }
     void setDeviceList(const QList<XmlDeviceType*>& devices) { m_items.set(devices); }
 
-protected:
-    const ElementForm& form() const override;
-
 private:
+    const ContentModel& contentModel() const override;
+
     OwnedList<XmlDeviceType> m_items;
 };
 
@@ -166,10 +165,9 @@ public:
 
     bool isValid() const override;
 
-protected:
-    const ElementForm& form() const override;
-
 private:
+    const ContentModel& contentModel() const override;
+
     OptionalChild<XmlKeyType> m_key;
     OptionalChild<XmlLengthType> m_value;
 };
@@ -184,10 +182,9 @@ public:
     const QList<XmlMapType*>& mapList() const { return m_items.items(); }
     void setMapList(const QList<XmlMapType*>& entries) { m_items.set(entries); }
 
-protected:
-    const ElementForm& form() const override;
-
 private:
+    const ContentModel& contentModel() const override;
+
     OwnedList<XmlMapType> m_items;
 };
 

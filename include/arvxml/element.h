@@ -1,7 +1,7 @@
 #pragma once
 
 /// \file
-/// What every element can do, and the bases that carry it out.
+/// What every element can do.
 
 #include "arvxml/export.h"
 #include "arvxml/ownership.h"
@@ -15,10 +15,7 @@ class QXmlStreamWriter;
 /// Objects for the XML documents of the planning protocol.
 namespace ArvXml {
 
-class ElementForm;
 class ElementReader;
-struct Content;
-struct EnumerationRules;
 
 /// What every element of the protocol can do.
 ///
@@ -104,7 +101,6 @@ protected:
     QString mySyntaxError();
 
 private:
-    friend class ElementReader;
     friend ARVXML_EXPORT QDebug operator<<(QDebug debug, const XmlElementBase& element);
 
     QString m_className;
@@ -146,101 +142,33 @@ protected:
     XmlVersioned& operator=(const XmlVersioned&) = default;
     XmlVersioned& operator=(XmlVersioned&&) = default;
 
-    /// Whether the version is exactly "1.0".
-    bool supportsVersion() const;
-    /// Makes the version "1.0" again.
-    void restoreVersion();
-    /// Takes the version of the start tag if it has one.
-    void readVersion(ElementReader& in);
-    /// Raises an error on the reader if the version is not supported.
-    void refuseOtherVersions(ElementReader& in) const;
-    void writeVersion(QXmlStreamWriter& writer) const;
-    /// The problem with the version, or nothing.
-    QString versionError() const;
-
 private:
+    friend class XmlQuantity;
+    friend class XmlVersionedComposite;
+
+    bool supportsVersion() const;
+
     QString m_version;
 };
 
-/// The base of the elements whose content is child elements.
-///
-/// What such an element looks like on the wire is told once, by its form: the tags in the order of writing, what
-/// holds them, and what may follow what. The operations here carry a form out; a class overrides those in which it
-/// departs.
-class ARVXML_EXPORT XmlComposite : public XmlElement {
+/// What all objects of a class have in common. It stays as it is when one is assigned to.
+template <typename T>
+class OfClass {
 public:
-    void processXml(QXmlStreamReader& reader, const QString& tagName) override;
-    void produceXml(QXmlStreamWriter& writer, const QString& tagName) const override;
-    bool isValid() const override;
-    void reset() override;
+    /// \a value must live as long as the program.
+    OfClass(const T& value)
+        : m_value(&value)
+    {
+    }
+    OfClass(const OfClass&) = default;
+    ~OfClass() = default;
+    OfClass& operator=(const OfClass&) noexcept { return *this; }
 
-protected:
-    using XmlElement::XmlElement;
+    const T& operator*() const { return *m_value; }
+    const T* operator->() const { return m_value; }
 
-    void addErrors() override;
-    /// The element's wire form.
-    virtual const ElementForm& form() const = 0;
-    /// What happens before the children are read (position, attributes). Returns the marks that the
-    /// children's gates find set.
-    virtual quint32 openElement(ElementReader& in);
-    /// Whether the end tag may come once the children marked in \a read have been read.
-    virtual bool isComplete(quint32 read) const;
-    virtual void writeAttributes(QXmlStreamWriter& writer) const;
-
-    /// Writes the children in the order of the form.
-    void writeChildren(QXmlStreamWriter& writer) const;
-    /// Adds the problems of the children in the order of the form.
-    void addChildrenErrors();
-    /// How many children the element holds, those left out that are always there.
-    int heldChildren() const;
-};
-
-/// A composite with a version.
-class ARVXML_EXPORT XmlVersionedComposite : public XmlComposite, public XmlVersioned {
-public:
-    bool isValid() const override;
-    void reset() override;
-
-protected:
-    using XmlComposite::XmlComposite;
-
-    void addErrors() override;
-    quint32 openElement(ElementReader& in) override;
-    void writeAttributes(QXmlStreamWriter& writer) const override;
-};
-
-/// The base of the lists: at least one item, all under one tag. Reading deletes the items held first.
-/// Another version than "1.0" is read, and reported when the list is judged.
-class ARVXML_EXPORT XmlList : public XmlVersionedComposite {
-public:
-    bool isValid() const override;
-
-protected:
-    using XmlVersionedComposite::XmlVersionedComposite;
-
-    void addErrors() override;
-    quint32 openElement(ElementReader& in) override;
-};
-
-/// The base of the elements whose content is one text out of a list.
-///
-/// Value 0 means that none is chosen; it is never read, makes the element invalid, and is written as "UNDEFINED", as
-/// is every value outside the list, which is valid all the same. Texts are compared exactly: case and blanks count.
-/// Each piece of text is taken for itself (a comment cuts a text in two); an element without text keeps its value.
-class ARVXML_EXPORT XmlEnumeration : public XmlElement {
-public:
-    void processXml(QXmlStreamReader& reader, const QString& tagName) override;
-    void produceXml(QXmlStreamWriter& writer, const QString& tagName) const override;
-    bool isValid() const override;
-    void reset() override;
-
-protected:
-    using XmlElement::XmlElement;
-
-    void addErrors() override;
-    virtual const EnumerationRules& rules() const = 0;
-
-    int m_value = 0;
+private:
+    const T* m_value;
 };
 
 } // namespace ArvXml

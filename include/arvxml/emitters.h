@@ -3,7 +3,7 @@
 /// \file
 /// Emitters, direction finders and the precision of bearings.
 
-#include "arvxml/element.h"
+#include "arvxml/composite.h"
 #include "arvxml/geometry.h"
 #include "arvxml/names.h"
 #include "arvxml/quantities.h"
@@ -23,9 +23,6 @@ public:
     /// The precision in degrees.
     int precision() const { return static_cast<int>(m_value); }
     void setPrecision(int precision) { m_value = precision; }
-
-protected:
-    const QuantityRules& rules() const override;
 };
 
 /// The base of the named sites of a plan: a name and a position. A position before the name is read, but then the
@@ -63,10 +60,9 @@ public:
     const XmlTxParamType* txParam() const { return &m_txParam; }
     void setTxParam(const XmlTxParamType& parameters) { m_txParam = parameters; }
 
-protected:
-    const ElementForm& form() const override;
-
 private:
+    const ContentModel& contentModel() const override;
+
     XmlTxParamType m_txParam;
 };
 
@@ -98,10 +94,9 @@ public:
     const XmlStationInterlinkType* interlink() const { return m_interlink.get(); }
     void setInterlink(const XmlStationInterlinkType& interlink) { m_interlink.set(interlink); }
 
-protected:
-    const ElementForm& form() const override;
-
 private:
+    const ContentModel& contentModel() const override;
+
     XmlRxParamType m_rxParam;
     XmlDfPrecisionType m_dfPrecision;
     OptionalChild<XmlStationInterlinkType> m_interlink;

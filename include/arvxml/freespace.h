@@ -21,10 +21,9 @@ public:
     void setKfactor(double value) { setValue(KFactorRow, value); }
     bool hasKfactor() const { return isPresent(KFactorRow); }
 
-protected:
-    const ParameterTable& table() const override;
-
 private:
+    static const ParameterTable& table();
+
     enum Row { KFactorRow };
 };
 

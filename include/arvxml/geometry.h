@@ -3,7 +3,7 @@
 /// \file
 /// Positions, and the two shapes of areas: rectangles and polygons.
 
-#include "arvxml/element.h"
+#include "arvxml/composite.h"
 
 #include <QtCore/QVector>
 
@@ -36,7 +36,7 @@ public:
 
 protected:
     void addErrors() override;
-    const ElementForm& form() const override;
+    const ContentModel& contentModel() const override;
 
 private:
     double m_longitude;
@@ -66,10 +66,10 @@ public:
 
 protected:
     void addErrors() override;
-    quint32 openElement(ElementReader& in) override;
-    void writeAttributes(QXmlStreamWriter& writer) const override;
 
 private:
+    const ContentModel& contentModel() const override;
+
     int m_number;
 };
 
@@ -100,10 +100,9 @@ public:
     const XmlCoordinateType* lowerRight() const { return &m_lowerRight; }
     void setLowerRight(const XmlCoordinateType& corner) { m_lowerRight = corner; }
 
-protected:
-    const ElementForm& form() const override;
-
 private:
+    const ContentModel& contentModel() const override;
+
     XmlCoordinateType m_upperLeft;
     XmlCoordinateType m_lowerRight;
 };
@@ -134,10 +133,10 @@ public:
 
 protected:
     void addErrors() override;
-    const ElementForm& form() const override;
-    bool isComplete(quint32 read) const override;
 
 private:
+    const ContentModel& contentModel() const override;
+
     OwnedList<XmlNumCoordType, QVector<XmlNumCoordType*>> m_vertices;
 };
 

@@ -3,8 +3,8 @@
 /// \file
 /// The results of calculations over an area, and the range of a grid's values.
 
+#include "arvxml/composite.h"
 #include "arvxml/coverageorders.h"
-#include "arvxml/element.h"
 #include "arvxml/siteorders.h"
 
 namespace ArvXml {
@@ -85,13 +85,9 @@ public:
 
 protected:
     void addErrors() override;
-    const ElementForm& form() const override;
-    quint32 openElement(ElementReader& in) override;
-    void writeAttributes(QXmlStreamWriter& writer) const override;
 
 private:
-    bool isTypeDefined() const;
-    bool hasParametersOfType() const;
+    const ContentModel& contentModel() const override;
 
     ResultType m_type = ResultUndefined;
     OptionalChild<XmlFindSitesType> m_findSites;
@@ -111,7 +107,7 @@ private:
 /// cannot be read here. The unit must not be empty ("Missing mandatory attributes"; an empty
 /// version is refused as unsupported); an attribute that is absent leaves what the element holds. Another version than
 /// "1.0" is refused while reading. reset() touches the two numbers only.
-class ARVXML_EXPORT XmlGridValuesType : public XmlVersionedComposite {
+class ARVXML_EXPORT XmlGridValuesType : public XmlComposite, public XmlVersioned {
 public:
     XmlGridValuesType();
 
@@ -132,14 +128,9 @@ public:
 
 protected:
     void addErrors() override;
-    const ElementForm& form() const override;
-    quint32 openElement(ElementReader& in) override;
-    void writeAttributes(QXmlStreamWriter& writer) const override;
 
 private:
-    void writeMin(QXmlStreamWriter& writer, const QString& tag) const;
-    void writeMax(QXmlStreamWriter& writer, const QString& tag) const;
-    bool lacksAttributes() const;
+    const ContentModel& contentModel() const override;
 
     QString m_unit;
     double m_min = 0.0;

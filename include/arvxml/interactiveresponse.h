@@ -3,7 +3,7 @@
 /// \file
 /// Results that the service delivers on its own.
 
-#include "arvxml/element.h"
+#include "arvxml/composite.h"
 #include "arvxml/emitters.h"
 #include "arvxml/gridresult.h"
 #include "arvxml/interlinkresult.h"
@@ -41,10 +41,9 @@ public:
     const XmlDfType* df() const { return m_df.get(); }
     void setDf(const XmlDfType& df) { m_df.set(df); }
 
-protected:
-    const ElementForm& form() const override;
-
 private:
+    const ContentModel& contentModel() const override;
+
     OptionalChild<XmlStationType> m_station;
     OptionalChild<XmlEmitterType> m_emitter;
     OptionalChild<XmlReceiverType> m_receiver;
@@ -80,9 +79,10 @@ public:
 
 protected:
     void addErrors() override;
-    const ElementForm& form() const override;
 
 private:
+    const ContentModel& contentModel() const override;
+
     OptionalChild<XmlGridResultType> m_gridResult;
     OptionalChild<XmlInterlinkResultType> m_interlinkResult;
     OptionalChild<XmlResultObjectType> m_result;

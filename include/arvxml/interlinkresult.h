@@ -3,7 +3,7 @@
 /// \file
 /// The result of interlink planning.
 
-#include "arvxml/element.h"
+#include "arvxml/composite.h"
 #include "arvxml/siteorders.h"
 
 namespace ArvXml {
@@ -45,10 +45,9 @@ public:
 
 protected:
     void addErrors() override;
-    const ElementForm& form() const override;
 
 private:
-    void writeResult(QXmlStreamWriter& writer, const QString& tag) const;
+    const ContentModel& contentModel() const override;
 
     XmlInterlinkPlanningType m_parameters;
     QString m_resultText;

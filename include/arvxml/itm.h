@@ -89,10 +89,9 @@ public:
     void setTime(double value) { setValue(TimeRow, value); }
     bool hasTime() const { return isPresent(TimeRow); }
 
-protected:
-    const ParameterTable& table() const override;
-
 private:
+    static const ParameterTable& table();
+
     enum Row { RriRow, PolRow, ClimateRow, SurfaceRow, ConfRow, TimeRow };
 };
 

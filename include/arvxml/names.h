@@ -3,29 +3,10 @@
 /// \file
 /// Names of planning objects, keys, and references of commands.
 
-#include "arvxml/element.h"
+#include "arvxml/composite.h"
+#include "arvxml/text.h"
 
 namespace ArvXml {
-
-struct TextRules;
-
-/// The base of the elements whose content is one short text. An empty element leaves the text as it was. Each piece of
-/// text replaces the one before (a comment cuts a text in two); blanks count.
-class ARVXML_EXPORT XmlText : public XmlElement {
-public:
-    void processXml(QXmlStreamReader& reader, const QString& tagName) override;
-    void produceXml(QXmlStreamWriter& writer, const QString& tagName) const override;
-    bool isValid() const override;
-    void reset() override;
-
-protected:
-    using XmlElement::XmlElement;
-
-    void addErrors() override;
-    virtual const TextRules& rules() const = 0;
-
-    QString m_text;
-};
 
 /// The name of one planning object: `<Name>Site 1</Name>`, 1 to 128 characters.
 ///
@@ -38,7 +19,7 @@ public:
     const QString& objName() const { return m_text; }
     void setObjName(const QString& objName) { m_text = objName; }
 
-protected:
+private:
     const TextRules& rules() const override;
 };
 
@@ -55,7 +36,7 @@ public:
     const QString& reference() const { return m_text; }
     void setReference(const QString& reference) { m_text = reference; }
 
-protected:
+private:
     const TextRules& rules() const override;
 };
 
@@ -101,8 +82,6 @@ protected:
     void addErrors() override;
     bool isInitialised() const { return m_initialised; }
     void setInitialised() { m_initialised = true; }
-    /// Removes the names, without saying that the choice is made.
-    virtual void removeNames() = 0;
 
 private:
     bool m_initialised = false;
@@ -124,11 +103,9 @@ public:
 
     bool isValid() const override;
 
-protected:
-    const ElementForm& form() const override;
-    void removeNames() override;
-
 private:
+    const ContentModel& contentModel() const override;
+
     OptionalChild<XmlObjNameType> m_objName;
 };
 
@@ -148,11 +125,9 @@ public:
 
     bool isValid() const override;
 
-protected:
-    const ElementForm& form() const override;
-    void removeNames() override;
-
 private:
+    const ContentModel& contentModel() const override;
+
     OwnedList<XmlObjNameType> m_objNames;
 };
 

@@ -57,10 +57,9 @@ public:
     void setCitySize(Size value) { setValue(CitySizeRow, value); }
     bool hasCitySize() const { return isPresent(CitySizeRow); }
 
-protected:
-    const ParameterTable& table() const override;
-
 private:
+    static const ParameterTable& table();
+
     enum Row { KFactorRow, AreaTypeRow, CitySizeRow };
 };
 

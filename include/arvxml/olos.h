@@ -33,10 +33,9 @@ public:
 
     void reset() override;
 
-protected:
-    const ParameterTable& table() const override;
-
 private:
+    static const ParameterTable& table();
+
     enum Row { KFactorRow, MaxRangeRow };
 };
 

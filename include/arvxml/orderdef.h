@@ -3,7 +3,7 @@
 /// \file
 /// The envelope of an order.
 
-#include "arvxml/element.h"
+#include "arvxml/composite.h"
 
 namespace ArvXml {
 
@@ -42,9 +42,10 @@ public:
 
 protected:
     void addErrors() override;
-    const ElementForm& form() const override;
 
 private:
+    const ContentModel& contentModel() const override;
+
     QString m_orderId;
     QString m_orderSender;
 };

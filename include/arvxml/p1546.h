@@ -110,10 +110,9 @@ public:
     void setRxAnt(Path value) { setValue(RxAntRow, value); }
     bool hasRxAnt() const { return isPresent(RxAntRow); }
 
-protected:
-    const ParameterTable& table() const override;
-
 private:
+    static const ParameterTable& table();
+
     enum Row {
         KFactorRow,
         TimeRow,

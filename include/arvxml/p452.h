@@ -79,10 +79,9 @@ public:
     void setDistRxCoast_km(double value) { setValue(DistRxCoastRow, value); }
     bool hasDistRxCoast_km() const { return isPresent(DistRxCoastRow); }
 
-protected:
-    const ParameterTable& table() const override;
-
 private:
+    static const ParameterTable& table();
+
     enum Row {
         DeltaNRow,
         SurfaceRefractRow,

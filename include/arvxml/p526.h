@@ -77,10 +77,9 @@ public:
     void setSubPath(Switch value) { setValue(SubPathRow, value); }
     bool hasSubPath() const { return isPresent(SubPathRow); }
 
-protected:
-    const ParameterTable& table() const override;
-
 private:
+    static const ParameterTable& table();
+
     enum Row { KFactorRow, PolRow, SurfRow, SmoothRow, SubPathRow };
 };
 

@@ -31,10 +31,9 @@ public:
     void setSunSpots(double value) { setValue(SunSpotsRow, value); }
     bool hasSunSpots() const { return isPresent(SunSpotsRow); }
 
-protected:
-    const ParameterTable& table() const override;
-
 private:
+    static const ParameterTable& table();
+
     enum Row { KFactorRow, SunSpotsRow };
 };
 

@@ -28,7 +28,8 @@ public:
     void reset() override;
 
 protected:
-    using XmlElement::XmlElement;
+    /// A set with these parameters, in the order of reading and writing; the values are their defaults.
+    XmlParameterSet(const QString& className, const ParameterTable& table);
     // Protected: a set is no good with the values of a set of another kind.
     XmlParameterSet(const XmlParameterSet&) = default;
     XmlParameterSet& operator=(const XmlParameterSet&) = default;
@@ -36,8 +37,6 @@ protected:
     XmlParameterSet& operator=(XmlParameterSet&& other) noexcept;
 
     void addErrors() override;
-    /// The set's parameters, in the order of reading and writing.
-    virtual const ParameterTable& table() const = 0;
 
     double realValue(int parameter) const { return at(parameter).value; }
     int integerValue(int parameter) const { return static_cast<int>(at(parameter).value); }
@@ -48,7 +47,7 @@ protected:
     }
     bool isPresent(int parameter) const { return at(parameter).isPresent; }
     void setValue(int parameter, double value) { at(parameter) = {value, true}; }
-    /// Puts every value to its default and clears every flag; every set's constructor calls it.
+    /// Puts every value to its default and clears every flag.
     void resetParameters();
 
 private:
@@ -60,9 +59,8 @@ private:
     const Parameter& at(int parameter) const { return m_parameters[static_cast<std::size_t>(parameter)]; }
     Parameter& at(int parameter) { return m_parameters[static_cast<std::size_t>(parameter)]; }
     void readParameter(int parameter, ElementReader& in);
-    QString writtenText(int parameter) const;
-    bool isParameterValid(int parameter) const;
 
+    OfClass<ParameterTable> m_table;
     std::vector<Parameter> m_parameters;
 };
 

@@ -4,7 +4,8 @@
 /// The choice of a propagation model.
 
 #include "arvxml/command.h"
-#include "arvxml/element.h"
+#include "arvxml/composite.h"
+#include "arvxml/enumeration.h"
 #include "arvxml/freespace.h"
 #include "arvxml/itm.h"
 #include "arvxml/okumurahata.h"
@@ -47,7 +48,7 @@ public:
 
     void processXml(QXmlStreamReader& reader, const QString& tagName) override;
 
-protected:
+private:
     const EnumerationRules& rules() const override;
 };
 
@@ -122,12 +123,9 @@ public:
 
 protected:
     void addErrors() override;
-    const ElementForm& form() const override;
-    quint32 openElement(ElementReader& in) override;
 
 private:
-    static Content referenceOfCommand();
-    bool hasTooManySets() const;
+    const ContentModel& contentModel() const override;
 
     OptionalChild<XmlPropModelEnumType> m_model;
     OptionalChild<XmlPropModelFSType> m_freespace;

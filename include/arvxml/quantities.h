@@ -3,75 +3,9 @@
 /// \file
 /// Measured quantities: one number each, with a unit.
 
-#include "arvxml/element.h"
+#include "arvxml/quantity.h"
 
 namespace ArvXml {
-
-struct QuantityRules;
-
-/// The base of the measured quantities: an element whose text is one number, with the attribute
-/// "version" and, for all but the SINAD, "unit".
-///
-/// A text that is no number is the reader error "Illegal value (must be numeric)" and leaves the
-/// default in the element; an empty element leaves the value as it was. Setters store without
-/// checking; numbers out of range and wrong versions are reported by isValid() and syntaxError(). The
-/// decimals written are those of the example at each class: a number smaller than they can show is
-/// written as zero.
-class ARVXML_EXPORT XmlQuantity : public XmlElement, public XmlVersioned {
-public:
-    void processXml(QXmlStreamReader& reader, const QString& tagName) override;
-    void produceXml(QXmlStreamWriter& writer, const QString& tagName) const override;
-    bool isValid() const override;
-    void reset() override;
-
-protected:
-    void addErrors() override;
-    XmlQuantity(const QString& className, const QuantityRules& rules);
-
-    virtual const QuantityRules& rules() const = 0;
-    /// What happens before the number is read: position and attributes.
-    virtual void openElement(ElementReader& in);
-    /// The unit to write; null for a quantity without one.
-    virtual const QString* writtenUnit() const;
-    /// Whether the quantity may have the unit it has.
-    virtual bool isUnitValid() const;
-    /// Takes a number as it stands on the wire.
-    virtual void takeNumber(double number);
-    /// The number as it stands on the wire.
-    virtual double writtenNumber() const;
-
-    double m_value;
-};
-
-/// The base of the quantities whose unit is fixed: it is written, but not read.
-class ARVXML_EXPORT XmlFixedUnitQuantity : public XmlQuantity {
-public:
-    /// The unit, always the same.
-    const QString& unit() const;
-
-protected:
-    using XmlQuantity::XmlQuantity;
-
-    const QString* writtenUnit() const override;
-};
-
-/// The base of the quantities whose unit is read: the attribute "unit" is required ("Missing
-/// attribute: "unit""), its text is stored whatever it is, and judged afterwards.
-class ARVXML_EXPORT XmlReadUnitQuantity : public XmlQuantity {
-public:
-    /// The unit as it was read; on a new element the one that its class tells.
-    const QString& unit() const { return m_unit; }
-    void reset() override;
-
-protected:
-    XmlReadUnitQuantity(const QString& className, const QuantityRules& rules);
-
-    void openElement(ElementReader& in) override;
-    const QString* writtenUnit() const override;
-    bool isUnitValid() const override;
-
-    QString m_unit;
-};
 
 /// A level in dBm: `<dBm version="1.0" unit="dBm">3.000000000</dBm>`. Default -110.0.
 ///
@@ -84,9 +18,6 @@ public:
     /// The level in dBm.
     double dBm() const { return m_value; }
     void setDBM(double dBm) { m_value = dBm; }
-
-protected:
-    const QuantityRules& rules() const override;
 };
 
 /// A ratio in dB: `<Decibel version="1.0" unit="dB">3.000000</Decibel>`. Default -0.0.
@@ -100,9 +31,6 @@ public:
     /// The ratio in dB.
     double decibel() const { return m_value; }
     void setDecibel(double decibel) { m_value = decibel; }
-
-protected:
-    const QuantityRules& rules() const override;
 };
 
 /// An angle in degrees: `<Degrees version="1.0" unit="°">12.3</Degrees>`. Default -0.0.
@@ -115,9 +43,6 @@ public:
     /// The angle in degrees.
     double degrees() const { return m_value; }
     void setDegrees(double degrees) { m_value = degrees; }
-
-protected:
-    const QuantityRules& rules() const override;
 };
 
 /// A length in whole metres: `<AntennaHeight version="1.0" unit="m">10</AntennaHeight>`. Default 0.
@@ -131,9 +56,6 @@ public:
     /// The length in metres.
     int length() const { return static_cast<int>(m_value); }
     void setLength(int length) { m_value = length; }
-
-protected:
-    const QuantityRules& rules() const override;
 };
 
 /// A power in W: `<TxPower version="1.0" unit="W">10.000000000000000</TxPower>`. Default -9.9.
@@ -146,9 +68,6 @@ public:
     /// The power in W.
     double power() const { return m_value; }
     void setPower(double power) { m_value = power; }
-
-protected:
-    const QuantityRules& rules() const override;
 };
 
 /// A frequency: `<Frequency version="1.0" unit="kHz">2400.000000</Frequency>`. Default -9.9 MHz.
@@ -171,8 +90,7 @@ public:
     /// number of megahertz, and an empty one is refused by readers.
     void setUnit(const QString& unit) { m_unit = unit; }
 
-protected:
-    const QuantityRules& rules() const override;
+private:
     bool isUnitValid() const override;
     void takeNumber(double number) override;
     double writtenNumber() const override;
@@ -191,9 +109,6 @@ public:
     /// The bandwidth in kHz.
     double bandwidth_khz() const { return m_value; }
     void setBandwidth(double bandwidth) { m_value = bandwidth; }
-
-protected:
-    const QuantityRules& rules() const override;
 };
 
 /// A field strength threshold in dBm:
@@ -208,9 +123,6 @@ public:
     /// The threshold in dBm.
     double fieldstrength() const { return m_value; }
     void setFieldstrength(double fieldstrength) { m_value = fieldstrength; }
-
-protected:
-    const QuantityRules& rules() const override;
 };
 
 /// A signal-to-interference ratio (SINAD): `<SINAD version="1.0">12.000000</SINAD>`, without a unit;
@@ -225,9 +137,6 @@ public:
     /// The ratio, without a unit.
     double sinad() const { return m_value; }
     void setSinad(double sinad) { m_value = sinad; }
-
-protected:
-    const QuantityRules& rules() const override;
 };
 
 } // namespace ArvXml

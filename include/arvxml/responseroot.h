@@ -4,7 +4,7 @@
 /// The document element of responses.
 
 #include "arvxml/automaticresponse.h"
-#include "arvxml/element.h"
+#include "arvxml/composite.h"
 #include "arvxml/interactiveresponse.h"
 #include "arvxml/orderdef.h"
 
@@ -74,12 +74,9 @@ public:
 
 protected:
     void addErrors() override;
-    const ElementForm& form() const override;
-    quint32 openElement(ElementReader& in) override;
-    void writeAttributes(QXmlStreamWriter& writer) const override;
 
 private:
-    bool takeFinal(const QString& text);
+    const ContentModel& contentModel() const override;
 
     RespType m_type = RespUndefined;
     bool m_final = true;

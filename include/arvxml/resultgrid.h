@@ -3,7 +3,7 @@
 /// \file
 /// The spacing of result grids.
 
-#include "arvxml/element.h"
+#include "arvxml/enumeration.h"
 
 namespace ArvXml {
 
@@ -31,7 +31,7 @@ public:
     GridSize size() const { return static_cast<GridSize>(m_value); }
     void setSize(GridSize size) { m_value = size; }
 
-protected:
+private:
     const EnumerationRules& rules() const override;
 };
 

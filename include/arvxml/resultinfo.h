@@ -3,7 +3,7 @@
 /// \file
 /// The records that describe results in a display snapshot request.
 
-#include "arvxml/element.h"
+#include "arvxml/composite.h"
 #include "arvxml/geometry.h"
 #include "arvxml/gridresult.h"
 #include "arvxml/names.h"
@@ -57,9 +57,7 @@ public:
 protected:
     explicit XmlResInfo(const QString& className);
 
-    /// The form that all records have.
-    static ElementForm commonForm();
-    const ElementForm& form() const override;
+    const ContentModel& contentModel() const override;
 
 private:
     XmlObjNameType m_objName;
@@ -106,10 +104,9 @@ public:
     const XmlObjNameType* comment() const { return m_comment.get(); }
     void setComment(const XmlObjNameType& comment) { m_comment.set(comment); }
 
-protected:
-    const ElementForm& form() const override;
-
 private:
+    const ContentModel& contentModel() const override;
+
     OptionalChild<XmlObjNameType> m_comment;
 };
 

@@ -3,8 +3,8 @@
 /// \file
 /// Signal paths, and the parameters of transmitters, receiving sites and links.
 
+#include "arvxml/composite.h"
 #include "arvxml/devices.h"
-#include "arvxml/element.h"
 #include "arvxml/names.h"
 #include "arvxml/quantities.h"
 
@@ -51,10 +51,9 @@ public:
     const XmlMapListType* cab() const { return m_cableLengths.get(); }
     void setCab(const XmlMapListType& lengths) { m_cableLengths.set(lengths); }
 
-protected:
-    const ElementForm& form() const override;
-
 private:
+    const ContentModel& contentModel() const override;
+
     XmlObjNameType m_objName;
     XmlSinadType m_sinad;
     XmlDeviceListType m_devices;
@@ -92,10 +91,9 @@ public:
     const XmlBandwidthType* bandwidth() const { return &m_bandwidth; }
     void setBandwidth(const XmlBandwidthType& bandwidth) { m_bandwidth = bandwidth; }
 
-protected:
-    const ElementForm& form() const override;
-
 private:
+    const ContentModel& contentModel() const override;
+
     XmlFreqType m_frequency;
     XmlPowerType m_txPower;
     XmlLengthType m_antennaHeight;
@@ -122,10 +120,9 @@ public:
     const XmlFieldstrengthType* rxThres() const { return &m_rxThreshold; }
     void setRxThres(const XmlFieldstrengthType& threshold) { m_rxThreshold = threshold; }
 
-protected:
-    const ElementForm& form() const override;
-
 private:
+    const ContentModel& contentModel() const override;
+
     XmlLengthType m_antennaHeight;
     XmlFieldstrengthType m_rxThreshold;
 };
@@ -144,7 +141,7 @@ private:
 ///
 /// Another version than "1.0" is read, and reported when the link is judged. The version changes by reading only;
 /// there are no accessors for it.
-class ARVXML_EXPORT XmlStationInterlinkType : public XmlVersionedComposite {
+class ARVXML_EXPORT XmlStationInterlinkType : public XmlComposite {
 public:
     XmlStationInterlinkType();
 
@@ -165,15 +162,18 @@ public:
     void setAntHgt(const XmlLengthType& height) { m_antennaHeight = height; }
 
     /// Whether the version read is exactly "1.0".
-    using XmlVersioned::supportsVersion;
+    bool supportsVersion() const;
+
+    bool isValid() const override;
+    void reset() override;
 
 protected:
-    const ElementForm& form() const override;
+    void addErrors() override;
 
 private:
-    using XmlVersioned::setVersion;
-    using XmlVersioned::version;
+    const ContentModel& contentModel() const override;
 
+    QString m_version;
     XmlFreqType m_frequency;
     XmlPowerType m_power;
     XmlFieldstrengthType m_rxThreshold;

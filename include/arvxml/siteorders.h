@@ -3,7 +3,7 @@
 /// \file
 /// The calculation orders for possible sites and for the link between two objects.
 
-#include "arvxml/element.h"
+#include "arvxml/composite.h"
 #include "arvxml/names.h"
 #include "arvxml/resultgrid.h"
 
@@ -65,19 +65,8 @@ public:
     const XmlResultGridType* resultGrid() const { return m_resultGrid.get(); }
     void setResultGrid(const XmlResultGridType& resultGrid) { m_resultGrid.set(resultGrid); }
 
-    bool isValid() const override;
-    void reset() override;
-
-protected:
-    void addErrors() override;
-    const ElementForm& form() const override;
-
 private:
-    void takeNumber(const QString& text, ElementReader& in);
-    void takeDistribution(const QString& text, ElementReader& in);
-    void writeRandomEmitters(QXmlStreamWriter& writer, const QString& tag) const;
-    bool isRandomNumberValid() const;
-    bool lacksDistribution() const;
+    const ContentModel& contentModel() const override;
 
     OptionalChild<XmlNameAllMultiType> m_knownEmitters;
     int m_randNumber;
@@ -113,9 +102,10 @@ public:
 
 protected:
     void addErrors() override;
-    const ElementForm& form() const override;
 
 private:
+    const ContentModel& contentModel() const override;
+
     QString m_firstName;
     QString m_secondName;
 };

@@ -4,7 +4,7 @@
 /// The display snapshot request.
 
 #include "arvxml/areas.h"
-#include "arvxml/element.h"
+#include "arvxml/composite.h"
 #include "arvxml/emitters.h"
 #include "arvxml/resultinfo.h"
 #include "arvxml/stations.h"
@@ -98,9 +98,10 @@ public:
 
 protected:
     void addErrors() override;
-    const ElementForm& form() const override;
 
 private:
+    const ContentModel& contentModel() const override;
+
     OwnedList<XmlDeploymentAreaType> m_deployments;
     OwnedList<XmlAoiType> m_aois;
     OwnedList<XmlEmitterType> m_knownEmitters;

@@ -3,7 +3,7 @@
 /// \file
 /// Stations and receivers.
 
-#include "arvxml/element.h"
+#include "arvxml/composite.h"
 #include "arvxml/emitters.h"
 #include "arvxml/geometry.h"
 #include "arvxml/names.h"
@@ -57,10 +57,9 @@ public:
     const XmlStationInterlinkType* interlink() const { return m_interlink.get(); }
     void setInterlink(const XmlStationInterlinkType& interlink) { m_interlink.set(interlink); }
 
-protected:
-    const ElementForm& form() const override;
-
 private:
+    const ContentModel& contentModel() const override;
+
     XmlObjNameType m_objName;
     OptionalChild<XmlSignalPathType> m_signalPath;
     XmlCoordinateType m_position;
@@ -92,10 +91,9 @@ public:
     const XmlStationInterlinkType* interlink() const { return m_interlink.get(); }
     void setInterlink(const XmlStationInterlinkType& interlink) { m_interlink.set(interlink); }
 
-protected:
-    const ElementForm& form() const override;
-
 private:
+    const ContentModel& contentModel() const override;
+
     XmlRxParamType m_rxParam;
     OptionalChild<XmlStationInterlinkType> m_interlink;
 };

@@ -3,7 +3,7 @@
 /// \file
 /// Lists of measured quantities, and of receiver thresholds by frequency.
 
-#include "arvxml/element.h"
+#include "arvxml/composite.h"
 #include "arvxml/quantities.h"
 
 namespace ArvXml {
@@ -23,10 +23,9 @@ public:
     const QList<XmlDBMType*>& dBmList() const { return m_items.items(); }
     void setDBMList(const QList<XmlDBMType*>& items) { m_items.set(items); }
 
-protected:
-    const ElementForm& form() const override;
-
 private:
+    const ContentModel& contentModel() const override;
+
     OwnedList<XmlDBMType> m_items;
 };
 
@@ -45,10 +44,9 @@ public:
     const QList<XmlDecibelType*>& decibelList() const { return m_items.items(); }
     void setDecibelList(const QList<XmlDecibelType*>& items) { m_items.set(items); }
 
-protected:
-    const ElementForm& form() const override;
-
 private:
+    const ContentModel& contentModel() const override;
+
     OwnedList<XmlDecibelType> m_items;
 };
 
@@ -67,10 +65,9 @@ public:
     const QList<XmlDegreesType*>& degreeList() const { return m_items.items(); }
     void setDegreesList(const QList<XmlDegreesType*>& items) { m_items.set(items); }
 
-protected:
-    const ElementForm& form() const override;
-
 private:
+    const ContentModel& contentModel() const override;
+
     OwnedList<XmlDegreesType> m_items;
 };
 
@@ -89,10 +86,9 @@ public:
     const QList<XmlFreqType*>& freqList() const { return m_items.items(); }
     void setFreqList(const QList<XmlFreqType*>& items) { m_items.set(items); }
 
-protected:
-    const ElementForm& form() const override;
-
 private:
+    const ContentModel& contentModel() const override;
+
     OwnedList<XmlFreqType> m_items;
 };
 
@@ -116,10 +112,9 @@ public:
     const XmlFieldstrengthType* fieldstrength() const { return &m_threshold; }
     void setFieldstrength(const XmlFieldstrengthType& threshold) { m_threshold = threshold; }
 
-protected:
-    const ElementForm& form() const override;
-
 private:
+    const ContentModel& contentModel() const override;
+
     XmlFreqType m_frequency;
     XmlFieldstrengthType m_threshold;
 };
@@ -134,10 +129,9 @@ public:
     const QList<XmlFreqThrPairType*>& freqThrPairs() const { return m_items.items(); }
     void setFreqThrPairs(const QList<XmlFreqThrPairType*>& items) { m_items.set(items); }
 
-protected:
-    const ElementForm& form() const override;
-
 private:
+    const ContentModel& contentModel() const override;
+
     OwnedList<XmlFreqThrPairType> m_items;
 };
 

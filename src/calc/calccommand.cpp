@@ -1,6 +1,6 @@
 #include "arvxml/calccommand.h"
 
-#include "core/elementform.h"
+#include "core/contentmodel.h"
 
 namespace ArvXml {
 
@@ -9,11 +9,11 @@ XmlCmdCalc::XmlCmdCalc()
 {
 }
 
-const ElementForm& XmlCmdCalc::form() const
+const ContentModel& XmlCmdCalc::contentModel() const
 {
     using Self = XmlCmdCalc;
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(listWording)
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(listWording)
             .strictSequence({
                 oneOf({
                     {"FindPossibleSites", renewed<&Self::m_findSites>()},
@@ -23,9 +23,10 @@ const ElementForm& XmlCmdCalc::form() const
                     {"InterlinkPlanning", renewed<&Self::m_interlink>()},
                     {"BestSensorCov", keptByReset(renewed<&Self::m_bestSensor>())},
                 }),
-                required("Reference", referenceChild()),
-            });
-    return form;
+                required("Reference", child<&Self::m_reference>()),
+            })
+            .reportedFirst({"Reference"});
+    return model;
 }
 
 } // namespace ArvXml

@@ -1,7 +1,7 @@
 #include "arvxml/coverageorders.h"
 
-#include "core/elementform.h"
-#include "core/enumeration.h"
+#include "core/contentmodel.h"
+#include "core/enumerationrules.h"
 
 namespace ArvXml {
 
@@ -25,17 +25,17 @@ XmlCepType::XmlCepType()
 {
 }
 
-const ElementForm& XmlCepType::form() const
+const ContentModel& XmlCepType::contentModel() const
 {
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(compositeWording)
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(compositeWording)
             .sequence({
                 required("UseDFs", child<&XmlCepType::m_sensors>()),
                 required("AOIs", child<&XmlCepType::m_areas>()),
                 optional("Probability", renewed<&XmlCepType::m_probability>()),
                 optional("ResultGrid", renewed<&XmlCepType::m_resultGrid>()),
             });
-    return form;
+    return model;
 }
 
 XmlDetectProbType::XmlDetectProbType()
@@ -43,16 +43,16 @@ XmlDetectProbType::XmlDetectProbType()
 {
 }
 
-const ElementForm& XmlDetectProbType::form() const
+const ContentModel& XmlDetectProbType::contentModel() const
 {
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(compositeWording)
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(compositeWording)
             .sequence({
                 required("UseRxDFs", child<&XmlDetectProbType::m_sensors>()),
                 required("AOIs", child<&XmlDetectProbType::m_areas>()),
                 optional("ResultGrid", renewed<&XmlDetectProbType::m_resultGrid>()),
             });
-    return form;
+    return model;
 }
 
 XmlDfCovType::XmlDfCovType()
@@ -60,16 +60,16 @@ XmlDfCovType::XmlDfCovType()
 {
 }
 
-const ElementForm& XmlDfCovType::form() const
+const ContentModel& XmlDfCovType::contentModel() const
 {
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(compositeWording)
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(compositeWording)
             .sequence({
                 required("UseDFs", child<&XmlDfCovType::m_sensors>()),
                 required("AOIs", child<&XmlDfCovType::m_areas>()),
                 optional("ResultGrid", renewed<&XmlDfCovType::m_resultGrid>()),
             });
-    return form;
+    return model;
 }
 
 XmlBestSensorType::XmlBestSensorType()
@@ -77,17 +77,17 @@ XmlBestSensorType::XmlBestSensorType()
 {
 }
 
-const ElementForm& XmlBestSensorType::form() const
+const ContentModel& XmlBestSensorType::contentModel() const
 {
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(compositeWording)
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(compositeWording)
             .sequence({
                 required("UseRxDFs", child<&XmlBestSensorType::m_sensors>()),
                 required("AOIs", child<&XmlBestSensorType::m_areas>()),
                 optional("ResultGrid", renewed<&XmlBestSensorType::m_resultGrid>()),
                 optional("Comment", renewed<&XmlBestSensorType::m_comment>()),
             });
-    return form;
+    return model;
 }
 
 } // namespace ArvXml

@@ -1,6 +1,6 @@
 #include "arvxml/resultgrid.h"
 
-#include "core/enumeration.h"
+#include "core/enumerationrules.h"
 
 namespace ArvXml {
 

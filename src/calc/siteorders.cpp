@@ -1,7 +1,7 @@
 #include "arvxml/siteorders.h"
 
-#include "core/elementform.h"
-#include "core/enumeration.h"
+#include "core/contentmodel.h"
+#include "core/enumerationrules.h"
 #include "core/numbers.h"
 
 namespace ArvXml {
@@ -35,6 +35,69 @@ void takeSecondName(XmlInterlinkPlanningType& order, const QString& text, Elemen
     refuseLongName(text, QStringLiteral("SecondName too long (max. 128)"), in);
 }
 
+// Random emitters: a number, and how they are placed
+
+void takeNumber(XmlFindSitesType& order, const QString& text, ElementReader& in)
+{
+    bool ok = false;
+    const int number = toInteger(text, &ok);
+    order.setRandNumber(ok ? number : noRandomEmitters);
+    if (!ok)
+        in.fail(QStringLiteral("Illegal value for \"Number\" (must be numeric)"));
+}
+
+void takeDistribution(XmlFindSitesType& order, const QString& text, ElementReader& in)
+{
+    order.setRandDistri(static_cast<XmlFindSitesType::Distribution>(distributionTexts().value(text)));
+    if (order.randDistri() == XmlFindSitesType::Undefined)
+        in.fail(QStringLiteral("Illegal value for \"Distribution\""));
+}
+
+bool isNumberValid(const XmlFindSitesType& order)
+{
+    return order.randNumber() >= noRandomEmitters && order.randNumber() <= maxRandomEmitters;
+}
+
+bool lacksDistribution(const XmlFindSitesType& order)
+{
+    return order.randNumber() >= 0 && order.randDistri() == XmlFindSitesType::Undefined;
+}
+
+Binding randomEmitters()
+{
+    using Order = XmlFindSitesType;
+    Binding binding;
+    binding.holds.kind = ContentKind::Wrapper;
+    binding.write = [](const XmlElementBase& owner, QXmlStreamWriter& writer, const QString& tag) {
+        const auto& order = static_cast<const Order&>(owner);
+        if (!order.hasRandEmitters())
+            return;
+        writer.writeStartElement(tag);
+        writer.writeTextElement(QStringLiteral("Number"), numberText(order.randNumber()));
+        writer.writeTextElement(QStringLiteral("Distribution"), distributionTexts().text(order.randDistri()));
+        writer.writeEndElement();
+    };
+    binding.isValid = [](const XmlElementBase& owner) {
+        const auto& order = static_cast<const Order&>(owner);
+        return isNumberValid(order) && !lacksDistribution(order);
+    };
+    binding.syntaxError = [](XmlElementBase& owner) {
+        const auto& order = static_cast<const Order&>(owner);
+        QStringList problems;
+        if (!isNumberValid(order))
+            problems += QStringLiteral("RandomEmitters/Number out of bounds");
+        if (lacksDistribution(order))
+            problems += QStringLiteral("RandomEmitters distribution not set");
+        return problems.join(QLatin1Char('\n'));
+    };
+    binding.reset = [](XmlElementBase& owner) {
+        auto& order = static_cast<Order&>(owner);
+        order.setRandNumber(noRandomEmitters);
+        order.setRandDistri(Order::Undefined);
+    };
+    return binding;
+}
+
 } // namespace
 
 // Possible sites
@@ -45,7 +108,7 @@ XmlFindSitesType::XmlFindSitesType()
 {
 }
 
-const ElementForm& XmlFindSitesType::form() const
+const ContentModel& XmlFindSitesType::contentModel() const
 {
     using Self = XmlFindSitesType;
     enum : Marks {
@@ -57,88 +120,43 @@ const ElementForm& XmlFindSitesType::form() const
         Areas = 32,
         ResultGrid = 64,
     };
-    // "Number" and "Distribution" stand inside "RandomEmitters", whose tags this element reads and
-    // writes itself. While it is open the children after it are let through.
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(compositeWording)
-            .children({
-                {"UseKnownEmitters", Known, Known | RandomEmitters | Areas | ResultGrid,
-                 renewed<&Self::m_knownEmitters>()},
-                {"RandomEmitters", RandomEmitters | InRandom, RandomEmitters | Areas | ResultGrid,
-                 writtenBy<&Self::writeRandomEmitters>()},
-                {"Number", Number, Number | Distri, takenBy<&Self::takeNumber>(), InRandom},
-                {"Distribution", Distri, Distri, takenBy<&Self::takeDistribution>(), InRandom},
-                {"DeploymentAreas", Areas, Areas | ResultGrid, child<&Self::m_deploymentAreas>()},
-                {"ResultGrid", ResultGrid, ResultGrid, renewed<&Self::m_resultGrid>()},
+    // Odd: while "RandomEmitters" is open, the children after it are let through, and the own end tag, too.
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(compositeWording)
+            .rows({
+                Row("UseKnownEmitters", renewed<&Self::m_knownEmitters>())
+                    .marks(Known)
+                    .refusedAfter(Known | RandomEmitters | Areas | ResultGrid),
+                Row("RandomEmitters", randomEmitters())
+                    .marks(RandomEmitters | InRandom)
+                    .refusedAfter(RandomEmitters | Areas | ResultGrid),
+                Row("Number", as(ContentKind::Integer, takenBy<Self, takeNumber>()))
+                    .within("RandomEmitters")
+                    .required()
+                    .marks(Number)
+                    .refusedAfter(Number | Distri)
+                    .onlyAfter(InRandom),
+                Row("Distribution", asChoice(distributionTexts(), takenBy<Self, takeDistribution>()))
+                    .within("RandomEmitters")
+                    .required()
+                    .marks(Distri)
+                    .refusedAfter(Distri)
+                    .onlyAfter(InRandom),
+                Row("DeploymentAreas", child<&Self::m_deploymentAreas>())
+                    .required()
+                    .marks(Areas)
+                    .refusedAfter(Areas | ResultGrid),
+                Row("ResultGrid", renewed<&Self::m_resultGrid>()).marks(ResultGrid).refusedAfter(ResultGrid),
             })
-            .innerEnds({{"RandomEmitters", InRandom | Number | Distri, InRandom, 0}})
-            .completeWith(Areas);
-    return form;
+            .wrapperEnds({WrapperEnd("RandomEmitters").onlyAfter(InRandom | Number | Distri).clears(InRandom)})
+            .completeWith(Areas)
+            .reportedFirst({"DeploymentAreas"});
+    return model;
 }
 
 bool XmlFindSitesType::hasRandEmitters() const
 {
     return m_randDistribution != Undefined && m_randNumber >= 0;
-}
-
-void XmlFindSitesType::takeNumber(const QString& text, ElementReader& in)
-{
-    bool ok = false;
-    m_randNumber = toInteger(text, &ok);
-    if (!ok) {
-        m_randNumber = noRandomEmitters;
-        in.fail(QStringLiteral("Illegal value for \"Number\" (must be numeric)"));
-    }
-}
-
-void XmlFindSitesType::takeDistribution(const QString& text, ElementReader& in)
-{
-    m_randDistribution = static_cast<Distribution>(distributionTexts().value(text));
-    if (m_randDistribution == Undefined)
-        in.fail(QStringLiteral("Illegal value for \"Distribution\""));
-}
-
-void XmlFindSitesType::writeRandomEmitters(QXmlStreamWriter& writer, const QString& tag) const
-{
-    if (!hasRandEmitters())
-        return;
-    writer.writeStartElement(tag);
-    writer.writeTextElement(QStringLiteral("Number"), numberText(m_randNumber));
-    writer.writeTextElement(QStringLiteral("Distribution"), distributionTexts().text(m_randDistribution));
-    writer.writeEndElement();
-}
-
-bool XmlFindSitesType::isRandomNumberValid() const
-{
-    return m_randNumber >= noRandomEmitters && m_randNumber <= maxRandomEmitters;
-}
-
-bool XmlFindSitesType::lacksDistribution() const
-{
-    return m_randNumber >= 0 && m_randDistribution == Undefined;
-}
-
-bool XmlFindSitesType::isValid() const
-{
-    return XmlComposite::isValid() && isRandomNumberValid() && !lacksDistribution();
-}
-
-void XmlFindSitesType::addErrors()
-{
-    addSyntaxError(memberError(m_deploymentAreas));
-    addSyntaxError(memberError(m_knownEmitters));
-    if (!isRandomNumberValid())
-        addSyntaxError(QStringLiteral("RandomEmitters/Number out of bounds"));
-    if (lacksDistribution())
-        addSyntaxError(QStringLiteral("RandomEmitters distribution not set"));
-    addSyntaxError(memberError(m_resultGrid));
-}
-
-void XmlFindSitesType::reset()
-{
-    m_randNumber = noRandomEmitters;
-    m_randDistribution = Undefined;
-    XmlComposite::reset();
 }
 
 // Interlink planning
@@ -148,16 +166,16 @@ XmlInterlinkPlanningType::XmlInterlinkPlanningType()
 {
 }
 
-const ElementForm& XmlInterlinkPlanningType::form() const
+const ContentModel& XmlInterlinkPlanningType::contentModel() const
 {
     using Self = XmlInterlinkPlanningType;
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(compositeWording)
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(compositeWording)
             .sequence({
                 required("FirstName", text<Self, takeFirstName, &Self::firstName>()),
                 required("SecondName", text<Self, takeSecondName, &Self::secondName>()),
             });
-    return form;
+    return model;
 }
 
 bool XmlInterlinkPlanningType::isValid() const

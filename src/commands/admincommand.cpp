@@ -1,34 +1,36 @@
 #include "arvxml/admincommand.h"
 
-#include "core/elementform.h"
+#include "core/contentmodel.h"
 
 namespace ArvXml {
+
+static void writeQuery(const XmlCmdAdmin& command, QXmlStreamWriter& writer, const QString& tag)
+{
+    if (command.adminCmd() == XmlCmdAdmin::AdminQueryVersion)
+        writer.writeEmptyElement(tag);
+}
 
 XmlCmdAdmin::XmlCmdAdmin()
     : XmlCommand(QStringLiteral("XmlCmdAdmin"))
 {
 }
 
-const ElementForm& XmlCmdAdmin::form() const
+const ContentModel& XmlCmdAdmin::contentModel() const
 {
     using Self = XmlCmdAdmin;
     enum : Marks { Query = 1 };
-    // The query counts from its end tag on; what stands inside it is read as if beside it.
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(listWording)
-            .children({
-                {"QueryVersion", 0, 0, writtenBy<&Self::writeQuery>()},
-                {"Reference", 0, 0, child<&Self::m_reference>()},
+    // Odd: the query counts from its end tag on, and what stands inside it is read as if beside it.
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(listWording)
+            .rows({
+                Row("QueryVersion", writtenBy<Self, writeQuery>()).required(),
+                Row("Reference", child<&Self::m_reference>()).repeated(),
             })
-            .innerEnds({{"QueryVersion", 0, 0, Query, callOwner<&Self::setQueryVersion>}})
+            .wrapperEnds({WrapperEnd("QueryVersion").marks(Query).then([](XmlElementBase& owner) {
+                static_cast<Self&>(owner).m_command = AdminQueryVersion;
+            })})
             .completeWith(Query);
-    return form;
-}
-
-void XmlCmdAdmin::writeQuery(QXmlStreamWriter& writer, const QString& tag) const
-{
-    if (m_command == AdminQueryVersion)
-        writer.writeEmptyElement(tag);
+    return model;
 }
 
 bool XmlCmdAdmin::isValid() const

@@ -1,60 +1,66 @@
 #include "arvxml/commandroot.h"
 
-#include "core/elementform.h"
+#include "core/contentmodel.h"
 
 namespace ArvXml {
+
+namespace {
+
+constexpr bool isCommand = true;
+
+/// Every command gets a copy of the document's envelope.
+void readCommand(XmlCommand& command, const XmlCmdRoot& root, ElementReader& in, const QString& tag)
+{
+    command.processXml(in.stream(), tag);
+    if (root.hasOrderDef())
+        command.setOrderDef(*root.orderDef());
+}
+
+template <auto Member>
+Binding commands()
+{
+    Binding binding = heldIn<Member>();
+    binding.read = [](XmlElementBase& owner, ElementReader& in, const QString& tag) {
+        readCommand(memberOf<Member>(owner).append(), static_cast<const XmlCmdRoot&>(owner), in, tag);
+    };
+    return binding;
+}
+
+template <auto Member>
+Binding propModelCommand()
+{
+    Binding binding = heldIn<Member>();
+    binding.holds.newElement = []() -> std::unique_ptr<XmlElement> {
+        return std::make_unique<XmlPropModelType>(isCommand);
+    };
+    binding.read = [](XmlElementBase& owner, ElementReader& in, const QString& tag) {
+        readCommand(memberOf<Member>(owner).renew(isCommand), static_cast<const XmlCmdRoot&>(owner), in, tag);
+    };
+    return binding;
+}
+
+} // namespace
 
 XmlCmdRoot::XmlCmdRoot()
     : XmlComposite(QStringLiteral("XmlCmdRoot"))
 {
 }
 
-void XmlCmdRoot::handEnvelope(XmlCommand& command) const
-{
-    if (hasOrderDef())
-        command.setOrderDef(*orderDef());
-}
-
-template <auto Member>
-Content XmlCmdRoot::commands()
-{
-    Content content = heldIn<Member>();
-    content.read = [](XmlElementBase& owner, ElementReader& in, const QString& tag) {
-        XmlCommand& command = memberOf<Member>(owner).append();
-        command.processXml(in.stream(), tag);
-        static_cast<const XmlCmdRoot&>(owner).handEnvelope(command);
-    };
-    return content;
-}
-
-Content XmlCmdRoot::propModelCommand()
-{
-    Content content = heldIn<&XmlCmdRoot::m_propModel>();
-    content.read = [](XmlElementBase& owner, ElementReader& in, const QString& tag) {
-        auto& root = static_cast<XmlCmdRoot&>(owner);
-        constexpr bool isCommand = true;
-        XmlCommand& command = root.m_propModel.renew(isCommand);
-        command.processXml(in.stream(), tag);
-        root.handEnvelope(command);
-    };
-    return content;
-}
-
-const ElementForm& XmlCmdRoot::form() const
+const ContentModel& XmlCmdRoot::contentModel() const
 {
     using Self = XmlCmdRoot;
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(compositeWording)
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(compositeWording)
             .sequence({
                 optional("ORDER_DEF", renewed<&Self::m_orderDef>()),
                 repeated("Administrative", commands<&Self::m_administrative>()),
                 repeated("Create", commands<&Self::m_creates>()),
                 // Delete commands are neither judged nor reported here.
-                repeated("Delete", unjudged(reportedApart(commands<&Self::m_deletes>()))),
-                optional("PropagationModel", propModelCommand()),
+                repeated("Delete", unjudged(unreported(commands<&Self::m_deletes>()))),
+                optional("PropagationModel", propModelCommand<&Self::m_propModel>()),
                 repeated("Calculate", commands<&Self::m_calculations>()),
             });
-    return form;
+    return model;
 }
 
 } // namespace ArvXml

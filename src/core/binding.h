@@ -6,6 +6,7 @@
 #include <QtCore/QXmlStreamWriter>
 
 #include <functional>
+#include <memory>
 #include <type_traits>
 
 /// \file
@@ -13,98 +14,89 @@
 
 namespace ArvXml {
 
-// What the operations do with a child that is always present, may be absent, or is repeated.
+class EnumerationTexts;
 
-inline void writeMember(const IXmlElement& child, QXmlStreamWriter& writer, const QString& tag)
-{
-    child.produceXml(writer, tag);
-}
+template <typename Member>
+constexpr bool isOptionalChild = false;
 template <typename T>
-void writeMember(const OptionalChild<T>& child, QXmlStreamWriter& writer, const QString& tag)
-{
-    if (child.isPresent())
-        child.get()->produceXml(writer, tag);
-}
-template <typename T, typename Pointers>
-void writeMember(const OwnedList<T, Pointers>& list, QXmlStreamWriter& writer, const QString& tag)
-{
-    for (const T* item : list.items())
-        item->produceXml(writer, tag);
-}
+constexpr bool isOptionalChild<OptionalChild<T>> = true;
+template <typename T>
+constexpr bool isOptionalChild<const OptionalChild<T>> = true;
 
-inline bool isMemberValid(const IXmlElement& child)
+/// Calls \a function with each child held in \a member: one that is always present, one that may be absent, or a list.
+template <typename Member, typename Function>
+void forEachChild(Member& member, Function function)
 {
-    return child.isValid();
-}
-template <typename T>
-bool isMemberValid(const OptionalChild<T>& child)
-{
-    return !child.isPresent() || child.get()->isValid();
-}
-template <typename T, typename Pointers>
-bool isMemberValid(const OwnedList<T, Pointers>& list)
-{
-    for (const T* item : list.items()) {
-        if (!item->isValid())
-            return false;
+    if constexpr (std::is_base_of_v<IXmlElement, Member>) {
+        function(member);
+    } else if constexpr (isOptionalChild<Member>) {
+        if (member.isPresent())
+            function(*member.get());
+    } else {
+        for (auto* item : member.items())
+            function(*item);
     }
-    return true;
 }
 
-inline QString memberError(IXmlElement& child)
+template <typename Member>
+void writeMember(const Member& member, QXmlStreamWriter& writer, const QString& tag)
 {
-    return child.syntaxError();
+    forEachChild(member, [&](const auto& child) { child.produceXml(writer, tag); });
 }
-template <typename T>
-QString memberError(OptionalChild<T>& child)
+
+template <typename Member>
+bool isMemberValid(const Member& member)
 {
-    return child.isPresent() ? child.get()->syntaxError() : QString();
+    bool isValid = true;
+    forEachChild(member, [&](const auto& child) { isValid = isValid && child.isValid(); });
+    return isValid;
 }
-template <typename T, typename Pointers>
-QString memberError(OwnedList<T, Pointers>& list)
+
+/// The problems of all children held in \a member, one after the other.
+template <typename Member>
+QString memberError(Member& member)
 {
     QString errors;
-    for (T* item : list.items()) {
-        const QString error = item->syntaxError();
+    forEachChild(member, [&](auto& child) {
+        const QString error = child.syntaxError();
         if (!errors.isEmpty() && !error.isEmpty())
             errors += QLatin1Char('\n');
         errors += error;
-    }
+    });
     return errors;
 }
 
-inline void resetMember(IXmlElement& child)
+template <typename Member>
+void resetMember(Member& member)
 {
-    child.reset();
-}
-template <typename T>
-void resetMember(OptionalChild<T>& child)
-{
-    child.clear();
-}
-template <typename T, typename Pointers>
-void resetMember(OwnedList<T, Pointers>& list)
-{
-    list.clear();
+    if constexpr (std::is_base_of_v<IXmlElement, Member>)
+        member.reset();
+    else
+        member.clear();
 }
 
-inline int memberCount(const IXmlElement&)
+/// How many children are held in \a member; one that is always present does not count.
+template <typename Member>
+int memberCount(const Member& member)
 {
-    return 0; // always there, so not counted
-}
-template <typename T>
-int memberCount(const OptionalChild<T>& child)
-{
-    return child.isPresent() ? 1 : 0;
-}
-template <typename T, typename Pointers>
-int memberCount(const OwnedList<T, Pointers>& list)
-{
-    return list.size();
+    int count = 0;
+    if constexpr (!std::is_base_of_v<IXmlElement, Member>)
+        forEachChild(member, [&](const auto&) { ++count; });
+    return count;
 }
 
-/// What the operations do with what stands under one tag. Everything not set does nothing.
-struct Content {
+/// What kind of content a tag has.
+struct ContentKind {
+    enum Kind { Empty, Text, Integer, Real, Time, Choice, Element, Wrapper, Anything };
+
+    Kind kind = Empty;
+    const EnumerationTexts* texts = nullptr;          ///< those of a choice
+    std::unique_ptr<XmlElement> (*newElement)() = {}; ///< makes an object of an element's class
+};
+
+/// Binds what stands under one tag to its owner. Everything not set does nothing.
+struct Binding {
+    ContentKind holds;
     /// Called on the child's start tag.
     void (*read)(XmlElementBase& owner, ElementReader& in, const QString& tag) = [](auto&, auto&, auto&) {};
     void (*write)(const XmlElementBase& owner, QXmlStreamWriter& writer, const QString& tag) = [](auto&, auto&, auto&) {
@@ -118,197 +110,228 @@ struct Content {
     const char* writtenTag = nullptr;
 };
 
-/// The class that a pointer to a member belongs to.
+/// What a pointer to a member belongs to, and what it points to.
 template <typename Pointer>
-struct OwnerOf;
+struct PointerToMember;
 template <typename T, typename Class>
-struct OwnerOf<T Class::*> {
-    using Type = Class;
+struct PointerToMember<T Class::*> {
+    using Owner = Class;
+    using Member = T;
+};
+
+/// The class of the children held in a member.
+template <typename Member>
+struct ChildOf {
+    using Type = Member;
+};
+template <typename T>
+struct ChildOf<OptionalChild<T>> {
+    using Type = T;
+};
+template <typename T, typename Pointers>
+struct ChildOf<OwnedList<T, Pointers>> {
+    using Type = T;
 };
 
 /// The object and the member behind a row; rows know their owner only as an element.
 template <auto Member>
 auto& memberOf(XmlElementBase& owner)
 {
-    return static_cast<typename OwnerOf<decltype(Member)>::Type&>(owner).*Member;
+    return static_cast<typename PointerToMember<decltype(Member)>::Owner&>(owner).*Member;
 }
 template <auto Member>
 const auto& memberOf(const XmlElementBase& owner)
 {
-    return static_cast<const typename OwnerOf<decltype(Member)>::Type&>(owner).*Member;
+    return static_cast<const typename PointerToMember<decltype(Member)>::Owner&>(owner).*Member;
 }
+
+// Bindings of child elements
 
 /// A member in all but reading, which differs.
 template <auto Member>
-Content heldIn()
+Binding heldIn()
 {
-    Content content;
-    content.write = [](const XmlElementBase& owner, QXmlStreamWriter& writer, const QString& tag) {
+    using Child = typename ChildOf<typename PointerToMember<decltype(Member)>::Member>::Type;
+    Binding binding;
+    binding.holds.kind = ContentKind::Element;
+    if constexpr (std::is_default_constructible_v<Child>)
+        binding.holds.newElement = []() -> std::unique_ptr<XmlElement> { return std::make_unique<Child>(); };
+    binding.write = [](const XmlElementBase& owner, QXmlStreamWriter& writer, const QString& tag) {
         writeMember(memberOf<Member>(owner), writer, tag);
     };
-    content.isValid = [](const XmlElementBase& owner) { return isMemberValid(memberOf<Member>(owner)); };
-    content.syntaxError = [](XmlElementBase& owner) { return memberError(memberOf<Member>(owner)); };
-    content.reset = [](XmlElementBase& owner) { resetMember(memberOf<Member>(owner)); };
-    content.count = [](const XmlElementBase& owner) { return memberCount(memberOf<Member>(owner)); };
-    return content;
+    binding.isValid = [](const XmlElementBase& owner) { return isMemberValid(memberOf<Member>(owner)); };
+    binding.syntaxError = [](XmlElementBase& owner) { return memberError(memberOf<Member>(owner)); };
+    binding.reset = [](XmlElementBase& owner) { resetMember(memberOf<Member>(owner)); };
+    binding.count = [](const XmlElementBase& owner) { return memberCount(memberOf<Member>(owner)); };
+    return binding;
 }
 
 /// A child that is always present and read in place.
 template <auto Member>
-Content child()
+Binding child()
 {
-    Content content = heldIn<Member>();
-    content.read = [](XmlElementBase& owner, ElementReader& in, const QString& tag) {
+    Binding binding = heldIn<Member>();
+    binding.read = [](XmlElementBase& owner, ElementReader& in, const QString& tag) {
         memberOf<Member>(owner).processXml(in.stream(), tag);
     };
-    return content;
+    return binding;
 }
 
 /// An optional child that is made when absent and read in place otherwise.
 template <auto Member>
-Content reused()
+Binding reused()
 {
-    Content content = heldIn<Member>();
-    content.read = [](XmlElementBase& owner, ElementReader& in, const QString& tag) {
+    Binding binding = heldIn<Member>();
+    binding.read = [](XmlElementBase& owner, ElementReader& in, const QString& tag) {
         memberOf<Member>(owner).obtain().processXml(in.stream(), tag);
     };
-    return content;
+    return binding;
 }
 
 /// An optional child that is replaced by a new one on reading.
 template <auto Member>
-Content renewed()
+Binding renewed()
 {
-    Content content = heldIn<Member>();
-    content.read = [](XmlElementBase& owner, ElementReader& in, const QString& tag) {
+    Binding binding = heldIn<Member>();
+    binding.read = [](XmlElementBase& owner, ElementReader& in, const QString& tag) {
         memberOf<Member>(owner).renew().processXml(in.stream(), tag);
     };
-    return content;
+    return binding;
 }
 
 /// One of two optional children of which only one is kept on reading: reading it removes the other.
 template <auto Member, auto Other>
-Content readInsteadOf()
+Binding readInsteadOf()
 {
-    Content content = heldIn<Member>();
-    content.read = [](XmlElementBase& owner, ElementReader& in, const QString& tag) {
+    Binding binding = heldIn<Member>();
+    binding.read = [](XmlElementBase& owner, ElementReader& in, const QString& tag) {
         memberOf<Other>(owner).clear();
         memberOf<Member>(owner).obtain().processXml(in.stream(), tag);
     };
-    return content;
+    return binding;
 }
 
 /// Repeated children: each one read is appended, also when its reading failed.
 template <auto Member>
-Content items()
+Binding items()
 {
-    Content content = heldIn<Member>();
-    content.read = [](XmlElementBase& owner, ElementReader& in, const QString& tag) {
+    Binding binding = heldIn<Member>();
+    binding.read = [](XmlElementBase& owner, ElementReader& in, const QString& tag) {
         memberOf<Member>(owner).append().processXml(in.stream(), tag);
     };
-    return content;
+    return binding;
 }
 
-/// A child with a plain text: \a Take gets the text read (and, if it wants to raise errors, the
-/// reader), \a Give returns the text to write.
-template <typename Owner, auto Take, auto Give>
-Content text()
+// Bindings of values. Owner is the class of the element, which is called with the function named.
+
+/// A text that \a Take gets (and, if it wants to raise errors, the reader); it is not written.
+template <typename Owner, auto Take>
+Binding takenBy()
 {
-    Content content;
-    content.read = [](XmlElementBase& owner, ElementReader& in, const QString&) {
+    Binding binding;
+    binding.holds.kind = ContentKind::Text;
+    binding.read = [](XmlElementBase& owner, ElementReader& in, const QString&) {
         if constexpr (std::is_invocable_v<decltype(Take), Owner&, const QString&, ElementReader&>)
             std::invoke(Take, static_cast<Owner&>(owner), in.childText(), in);
         else
             std::invoke(Take, static_cast<Owner&>(owner), in.childText());
     };
-    content.write = [](const XmlElementBase& owner, QXmlStreamWriter& writer, const QString& tag) {
+    return binding;
+}
+
+/// A text: \a Take gets the one read, \a Give returns the one to write.
+template <typename Owner, auto Take, auto Give>
+Binding text()
+{
+    Binding binding = takenBy<Owner, Take>();
+    binding.write = [](const XmlElementBase& owner, QXmlStreamWriter& writer, const QString& tag) {
         writer.writeTextElement(tag, std::invoke(Give, static_cast<const Owner&>(owner)));
     };
-    return content;
+    return binding;
 }
 
-/// A child with a plain text that a member function of the owner takes; it is not written.
-template <auto Take>
-Content takenBy()
+/// Something that \a Write writes; its reading is the model's business.
+template <typename Owner, auto Write>
+Binding writtenBy()
 {
-    Content content;
-    content.read = [](XmlElementBase& owner, ElementReader& in, const QString&) {
-        auto& self = static_cast<typename OwnerOf<decltype(Take)>::Type&>(owner);
-        if constexpr (std::is_invocable_v<decltype(Take), decltype(self), QString, ElementReader&>)
-            (self.*Take)(in.childText(), in);
-        else
-            (self.*Take)(in.childText());
+    Binding binding;
+    binding.write = [](const XmlElementBase& owner, QXmlStreamWriter& writer, const QString& tag) {
+        std::invoke(Write, static_cast<const Owner&>(owner), writer, tag);
     };
-    return content;
+    return binding;
 }
 
-/// A child that a member function of the owner writes; reading it just sets the marks.
-template <auto Write>
-Content writtenBy()
+/// An empty child that says something by standing there: \a Function is called.
+template <typename Owner, auto Function>
+Binding called()
 {
-    Content content;
-    content.write = [](const XmlElementBase& owner, QXmlStreamWriter& writer, const QString& tag) {
-        (static_cast<const typename OwnerOf<decltype(Write)>::Type&>(owner).*Write)(writer, tag);
+    Binding binding;
+    binding.read = [](XmlElementBase& owner, ElementReader&, const QString&) {
+        std::invoke(Function, static_cast<Owner&>(owner));
     };
-    return content;
-}
-
-/// A child whose content means nothing to us.
-inline Content skipped()
-{
-    Content content;
-    content.read = [](XmlElementBase&, ElementReader& in, const QString&) { in.skipChild(); };
-    return content;
+    return binding;
 }
 
 /// A tag that is only entered: the element reads what it holds, and its end tag, itself.
-inline Content entered()
+inline Binding entered()
 {
-    return {};
+    Binding binding;
+    binding.holds.kind = ContentKind::Wrapper;
+    return binding;
 }
 
-/// Calls a member function of the owner.
-template <auto Function>
-void callOwner(XmlElementBase& owner)
+/// A child whose content means nothing to us.
+inline Binding skipped()
 {
-    (static_cast<typename OwnerOf<decltype(Function)>::Type&>(owner).*Function)();
+    Binding binding;
+    binding.holds.kind = ContentKind::Anything;
+    binding.read = [](XmlElementBase&, ElementReader& in, const QString&) { in.skipChild(); };
+    return binding;
 }
 
-/// A tag that says something by standing there.
-template <auto Function>
-Content called()
+// Departures: the same, but ...
+
+/// ... its content is of another kind than the word says.
+inline Binding as(ContentKind::Kind kind, Binding binding)
 {
-    Content content;
-    content.read = [](XmlElementBase& owner, ElementReader&, const QString&) { callOwner<Function>(owner); };
-    return content;
+    binding.holds.kind = kind;
+    return binding;
 }
 
-/// The same, but reset() leaves it as it is.
-inline Content keptByReset(Content content)
+/// ... its text is one of \a texts.
+inline Binding asChoice(const EnumerationTexts& texts, Binding binding)
 {
-    content.reset = Content().reset;
-    return content;
+    binding.holds.kind = ContentKind::Choice;
+    binding.holds.texts = &texts;
+    return binding;
 }
 
-/// The same, but syntaxError() does not report the child in its place, or not at all.
-inline Content reportedApart(Content content)
+/// ... reset() leaves it as it is.
+inline Binding keptByReset(Binding binding)
 {
-    content.syntaxError = Content().syntaxError;
-    return content;
+    binding.reset = Binding().reset;
+    return binding;
 }
 
-/// The same, but isValid() does not look at the child.
-inline Content unjudged(Content content)
+/// ... syntaxError() does not report the child in its place, or not at all.
+inline Binding unreported(Binding binding)
 {
-    content.isValid = Content().isValid;
-    return content;
+    binding.syntaxError = Binding().syntaxError;
+    return binding;
 }
 
-/// The same, but written under another tag than it is read.
-inline Content writtenAs(const char* tag, Content content)
+/// ... isValid() does not look at the child.
+inline Binding unjudged(Binding binding)
 {
-    content.writtenTag = tag;
-    return content;
+    binding.isValid = Binding().isValid;
+    return binding;
+}
+
+/// ... it is written under another tag than it is read.
+inline Binding writtenAs(const char* tag, Binding binding)
+{
+    binding.writtenTag = tag;
+    return binding;
 }
 
 } // namespace ArvXml

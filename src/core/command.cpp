@@ -1,35 +1,25 @@
 #include "arvxml/command.h"
 
-#include "core/elementform.h"
+#include "core/contentmodel.h"
 
 namespace ArvXml {
 
 void XmlCommand::reset()
 {
     m_orderDef.clear();
-    XmlComposite::reset(); // the reference stands in the form of every command
-}
-
-Content XmlChoiceCommand::referenceChild()
-{
-    return reportedApart(child<&XmlChoiceCommand::m_reference>());
-}
-
-bool XmlChoiceCommand::holdsExactlyOne() const
-{
-    return heldChildren() == 1;
+    m_reference.reset();
+    XmlComposite::reset();
 }
 
 bool XmlChoiceCommand::isValid() const
 {
-    return XmlCommand::isValid() && holdsExactlyOne();
+    return XmlCommand::isValid() && heldChildren() == 1;
 }
 
 void XmlChoiceCommand::addErrors()
 {
-    addSyntaxError(memberError(m_reference));
     addChildrenErrors();
-    if (!holdsExactlyOne())
+    if (heldChildren() != 1)
         addSyntaxError(QStringLiteral("Too many or too few elements."));
 }
 

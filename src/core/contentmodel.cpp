@@ -1,27 +1,41 @@
-#include "core/elementform.h"
+#include "core/contentmodel.h"
+
+#include <algorithm>
 
 namespace ArvXml {
 
 /// A particle has one mark, which each of its children sets. Those of later particles are all the greater ones.
-void ElementForm::addParticle(const Particle& particle, Marks needed)
+void ContentModel::addParticle(const Particle& particle, Marks needed, const QString& wrapper)
 {
+    const bool isRepeated = particle.occurrence == Occurrence::Repeated;
     const Marks itselfAndLater = ~(m_nextMark - 1);
-    const Marks refusing = particle.isRepeated ? itselfAndLater & ~m_nextMark : itselfAndLater;
-    for (const Particle::Child& child : particle.alternatives)
-        m_rows.emplace_back(child.tag, m_nextMark, refusing, child.content, needed);
-    if (particle.isRequired)
+    const bool isChoice = particle.alternatives.size() > 1;
+    if (isChoice)
+        ++m_choices;
+    for (const Particle::Child& child : particle.alternatives) {
+        Row row(child.tag, child.binding);
+        row.marks(m_nextMark)
+            .refusedAfter(isRepeated ? itselfAndLater & ~m_nextMark : itselfAndLater)
+            .onlyAfter(needed);
+        row.occurrence = particle.occurrence;
+        row.choice = isChoice ? m_choices : 0;
+        row.wrapper = wrapper;
+        m_rows.push_back(row);
+    }
+    if (particle.occurrence == Occurrence::Required)
         m_requiredParticles |= m_nextMark;
     m_nextMark <<= 1;
 }
 
-ElementForm& ElementForm::sequence(std::initializer_list<Particle> particles)
+ContentModel& ContentModel::sequence(std::initializer_list<Particle> particles)
 {
     for (const Particle& particle : particles)
         addParticle(particle, 0);
+    m_completions.clear();
     return completeWith(m_requiredParticles);
 }
 
-ElementForm& ElementForm::strictSequence(std::initializer_list<Particle> particles)
+ContentModel& ContentModel::strictSequence(std::initializer_list<Particle> particles)
 {
     for (const Particle& particle : particles)
         addParticle(particle, m_requiredParticles);
@@ -29,18 +43,55 @@ ElementForm& ElementForm::strictSequence(std::initializer_list<Particle> particl
     return completeWith(m_requiredParticles);
 }
 
-ElementForm& ElementForm::anywhere(const char* tag, const Content& content)
+ContentModel& ContentModel::within(const char* tag, Marks open, std::initializer_list<Particle> particles)
 {
-    m_rows.emplace_back(tag, 0, 0, content);
+    for (const Particle& particle : particles)
+        addParticle(particle, open, QString::fromLatin1(tag));
     return *this;
 }
 
-ElementForm& ElementForm::listOf(const char* tag, const Content& content, const char* tooFew)
+ContentModel& ContentModel::anywhere(const char* tag, const Binding& binding)
+{
+    m_rows.push_back(Row(tag, binding).repeated());
+    return *this;
+}
+
+ContentModel& ContentModel::listOf(const char* tag, const Binding& binding, const char* tooFew)
 {
     constexpr Marks item = 1;
-    m_rows.emplace_back(tag, item, 0, content);
+    m_rows.push_back(Row(tag, binding).marks(item).atLeastOnce());
+    m_areItemsReplaced = true;
     m_tooFew = QString::fromLatin1(tooFew);
     return completeWith(item);
+}
+
+ContentModel& ContentModel::rows(std::initializer_list<Row> rows)
+{
+    m_rows.insert(m_rows.end(), rows);
+    for (const Row& row : rows) {
+        while (((row.sets | row.bars | row.needs) & ~(m_nextMark - 1)) != 0)
+            m_nextMark <<= 1;
+    }
+    return *this;
+}
+
+bool ContentModel::mayEnd(const XmlElementBase& owner, Marks read) const
+{
+    return m_condition(owner)
+        && std::any_of(m_completions.cbegin(), m_completions.cend(),
+                       [read](const Completion& completion) { return (read & completion.among) == completion.marks; });
+}
+
+ContentModel& ContentModel::reportedFirst(std::initializer_list<const char*> tags)
+{
+    for (const char* tag : tags) {
+        const auto row = std::find_if(m_rows.begin(), m_rows.end(),
+                                      [tag](const Row& held) { return held.tag == QLatin1String(tag); });
+        Q_ASSERT(row != m_rows.end());
+        row->isReportedFirst = true;
+        m_reportedFirst.push_back(static_cast<std::size_t>(row - m_rows.begin()));
+    }
+    return *this;
 }
 
 } // namespace ArvXml

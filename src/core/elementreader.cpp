@@ -2,10 +2,18 @@
 
 namespace ArvXml {
 
+void raiseError(QXmlStreamReader& reader, const QString& className, const QString& message)
+{
+    const QString errorTemplate = QStringLiteral("in %3 (line %1, column %2): %4.");
+    reader.raiseError(errorTemplate.arg(reader.lineNumber(), 0, 10, QLatin1Char(' '))
+                          .arg(reader.columnNumber(), 0, 10, QLatin1Char(' '))
+                          .arg(className, message));
+}
+
 void ElementReader::fail(const QString& message)
 {
     m_hasFailed = true;
-    m_element.setReaderError(m_reader, message);
+    raiseError(m_reader, m_className, message);
 }
 
 bool ElementReader::requireStartTag()

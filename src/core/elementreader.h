@@ -1,6 +1,5 @@
 #pragma once
 
-#include "arvxml/element.h"
 #include "core/texts.h"
 
 #include <QtCore/QString>
@@ -42,12 +41,15 @@ inline QString typeAttribute()
     return QStringLiteral("type");
 }
 
+/// Raises "in CLASS (line L, column C): MESSAGE." on \a reader, in place of any earlier error.
+void raiseError(QXmlStreamReader& reader, const QString& className, const QString& message);
+
 /// One reading of one element: the stream, the tag under which the element stands, and the errors
 /// raised in the element's name.
 class ElementReader {
 public:
-    ElementReader(XmlElementBase& element, QXmlStreamReader& reader, const QString& tagName, const Wording& wording)
-        : m_element(element)
+    ElementReader(const QString& className, QXmlStreamReader& reader, const QString& tagName, const Wording& wording)
+        : m_className(className)
         , m_reader(reader)
         , m_tagName(tagName.cbegin(), tagName.cend())
         , m_wording(wording)
@@ -136,7 +138,7 @@ private:
     void refuseTag(const char* message);
     void refuseOtherToken();
 
-    XmlElementBase& m_element;
+    const QString& m_className;
     QXmlStreamReader& m_reader;
     /// A copy, since the caller's may be a text of the very element that is read. A QString would share it, which
     /// takes two atomic operations, more than these few characters.

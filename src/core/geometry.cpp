@@ -1,6 +1,6 @@
 #include "arvxml/geometry.h"
 
-#include "core/elementform.h"
+#include "core/contentmodel.h"
 #include "core/numbers.h"
 
 #include <algorithm>
@@ -38,6 +38,23 @@ QString latitudeText(const XmlCoordinateType& coordinate)
     return numberText(coordinate.latitude(), degreesFormat);
 }
 
+void readNumber(XmlElementBase& owner, ElementReader& in)
+{
+    if (!in.requireStartTag())
+        return;
+    const auto text = in.requireAttribute(numberAttribute());
+    if (text.isEmpty())
+        return;
+    bool ok = false;
+    static_cast<XmlNumCoordType&>(owner).setNumber(toInteger(text, &ok));
+    if (!ok)
+        in.fail(QStringLiteral("Illegal attribute value (must be numeric)"));
+}
+void writeNumber(const XmlElementBase& owner, QXmlStreamWriter& writer)
+{
+    writer.writeAttribute(numberAttribute(), numberText(static_cast<const XmlNumCoordType&>(owner).number()));
+}
+
 bool isLongitude(double degrees)
 {
     return degrees >= -180.0 && degrees <= 180.0;
@@ -58,26 +75,26 @@ XmlCoordinateType::XmlCoordinateType()
 {
 }
 
-const ElementForm& XmlCoordinateType::form() const
+const ContentModel& XmlCoordinateType::contentModel() const
 {
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(compositeWording)
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(compositeWording)
             .sequence({
-                required("Longitude", text<XmlCoordinateType, takeLongitude, longitudeText>()),
-                required("Latitude", text<XmlCoordinateType, takeLatitude, latitudeText>()),
+                required("Longitude", as(ContentKind::Real, text<XmlCoordinateType, takeLongitude, longitudeText>())),
+                required("Latitude", as(ContentKind::Real, text<XmlCoordinateType, takeLatitude, latitudeText>())),
             })
             .refusesOtherVersions();
-    return form;
+    return model;
 }
 
 bool XmlCoordinateType::isValid() const
 {
-    return supportsVersion() && isLongitude(m_longitude) && isLatitude(m_latitude);
+    return XmlVersionedComposite::isValid() && isLongitude(m_longitude) && isLatitude(m_latitude);
 }
 
 void XmlCoordinateType::addErrors()
 {
-    addSyntaxError(versionError());
+    XmlVersionedComposite::addErrors();
     if (!isLongitude(m_longitude))
         addSyntaxError(QStringLiteral("Longitude out of bounds"));
     if (!isLatitude(m_latitude))
@@ -98,24 +115,11 @@ XmlNumCoordType::XmlNumCoordType()
 {
 }
 
-quint32 XmlNumCoordType::openElement(ElementReader& in)
+const ContentModel& XmlNumCoordType::contentModel() const
 {
-    if (in.requireStartTag()) {
-        if (const auto text = in.requireAttribute(numberAttribute()); !text.isEmpty()) {
-            bool ok = false;
-            m_number = toInteger(text, &ok);
-            if (!ok)
-                in.fail(QStringLiteral("Illegal attribute value (must be numeric)"));
-        }
-    }
-    // The coordinate opens in every case; what it raises replaces an error raised here.
-    return XmlCoordinateType::openElement(in);
-}
-
-void XmlNumCoordType::writeAttributes(QXmlStreamWriter& writer) const
-{
-    writeVersion(writer);
-    writer.writeAttribute(numberAttribute(), numberText(m_number));
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(XmlCoordinateType::contentModel()).attributes(readNumber, writeNumber);
+    return model;
 }
 
 bool XmlNumCoordType::isValid() const
@@ -143,16 +147,16 @@ XmlAreaRectType::XmlAreaRectType()
 {
 }
 
-const ElementForm& XmlAreaRectType::form() const
+const ContentModel& XmlAreaRectType::contentModel() const
 {
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(compositeWording)
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(compositeWording)
             .sequence({
                 required("UpperLeft", child<&XmlAreaRectType::m_upperLeft>()),
                 required("LowerRight", child<&XmlAreaRectType::m_lowerRight>()),
             })
             .refusesOtherVersions();
-    return form;
+    return model;
 }
 
 // A polygon
@@ -193,18 +197,17 @@ XmlAreaPolyType::XmlAreaPolyType()
 {
 }
 
-const ElementForm& XmlAreaPolyType::form() const
+const ContentModel& XmlAreaPolyType::contentModel() const
 {
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(compositeWording)
-            .sequence({repeated("Vertex", items<&XmlAreaPolyType::m_vertices>())})
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(compositeWording)
+            // Not reported here: the problems end with the first illegal number.
+            .sequence({repeated("Vertex", unreported(items<&XmlAreaPolyType::m_vertices>()))})
+            .completeIf([](const XmlElementBase& owner) {
+                return static_cast<const XmlAreaPolyType&>(owner).m_vertices.size() >= minVertices;
+            })
             .refusesOtherVersions();
-    return form;
-}
-
-bool XmlAreaPolyType::isComplete(quint32) const
-{
-    return m_vertices.size() >= minVertices;
+    return model;
 }
 
 void XmlAreaPolyType::processXml(QXmlStreamReader& reader, const QString& tagName)
@@ -228,20 +231,18 @@ void XmlAreaPolyType::setVertices(const QVector<XmlNumCoordType*>& vertices)
 
 bool XmlAreaPolyType::isValid() const
 {
-    if (!supportsVersion())
-        return false;
     int previous = -1;
     for (const XmlNumCoordType* vertex : m_vertices.items()) {
-        if (!vertex->isValid() || vertex->number() <= previous)
+        if (vertex->number() <= previous)
             return false;
         previous = vertex->number();
     }
-    return true;
+    return XmlVersionedComposite::isValid();
 }
 
 void XmlAreaPolyType::addErrors()
 {
-    addSyntaxError(versionError());
+    XmlVersionedComposite::addErrors();
     int previous = -1;
     for (XmlNumCoordType* vertex : m_vertices.items()) {
         addSyntaxError(vertex->syntaxError());

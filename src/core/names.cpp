@@ -1,48 +1,10 @@
 #include "arvxml/names.h"
 
-#include "core/elementform.h"
+#include "core/contentmodel.h"
 #include "core/numbers.h"
+#include "core/textrules.h"
 
 namespace ArvXml {
-
-/// How long a text may be, and what is said when it is not.
-struct TextRules {
-    int max;
-    const char* tooShort;
-    const char* tooLong;
-};
-
-// Texts
-
-void XmlText::processXml(QXmlStreamReader& reader, const QString& tagName)
-{
-    ElementReader in(*this, reader, tagName, leafWording);
-    in.readLeaf([this](const auto& text) { m_text = keptText(text); });
-}
-
-void XmlText::produceXml(QXmlStreamWriter& writer, const QString& tagName) const
-{
-    writer.writeTextElement(tagName, m_text);
-}
-
-bool XmlText::isValid() const
-{
-    return !m_text.isEmpty() && m_text.size() <= rules().max;
-}
-
-void XmlText::addErrors()
-{
-    if (m_text.isEmpty())
-        addSyntaxError(QString::fromLatin1(rules().tooShort));
-    else if (m_text.size() > rules().max)
-        addSyntaxError(QString::fromLatin1(rules().tooLong));
-}
-
-void XmlText::reset()
-{
-    m_text.clear();
-    XmlElement::reset();
-}
 
 XmlObjNameType::XmlObjNameType()
     : XmlText(QStringLiteral("XmlObjNameType"))
@@ -75,7 +37,7 @@ XmlKeyType::XmlKeyType()
 
 void XmlKeyType::processXml(QXmlStreamReader& reader, const QString& tagName)
 {
-    ElementReader in(*this, reader, tagName, leafWording);
+    ElementReader in(classname(), reader, tagName, leafWording);
     in.readLeaf([&](const auto& text) {
         bool ok = false;
         m_key = toInteger(text, &ok);
@@ -110,7 +72,7 @@ void XmlKeyType::reset()
 
 void XmlNameChoice::setAll()
 {
-    removeNames();
+    resetChildren();
     setInitialised();
 }
 
@@ -141,31 +103,26 @@ XmlNameAllType::XmlNameAllType()
 {
 }
 
-const ElementForm& XmlNameAllType::form() const
+const ContentModel& XmlNameAllType::contentModel() const
 {
-    enum : Marks { Choice = 1 };
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(listWording)
-            .children({
-                {"All", Choice, Choice, called<&XmlNameAllType::removeNames>()},
-                {"Name", Choice, Choice, reused<&XmlNameAllType::m_objName>()},
-                {"Reference", 0, 0, skipped()},
-            })
-            .completeWith(Choice)
-            .whenComplete(callOwner<&XmlNameAllType::setInitialised>)
-            .innerEnds({{"All", 0, 0, 0}, {"Reference", 0, 0, 0}});
-    return form;
+    using Self = XmlNameAllType;
+    // Odd: a reference may stand anywhere and is skipped, and its end tag is taken without the start tag, too.
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(listWording)
+            .sequence({oneOf({
+                {"All", called<Self, &Self::resetChildren>()},
+                {"Name", reused<&Self::m_objName>()},
+            })})
+            .anywhere("Reference", skipped())
+            .whenComplete([](XmlElementBase& owner) { static_cast<Self&>(owner).setInitialised(); })
+            .wrapperEnds({WrapperEnd("All"), WrapperEnd("Reference")});
+    return model;
 }
 
 void XmlNameAllType::setObjName(const XmlObjNameType& objName)
 {
     m_objName.set(objName);
     setInitialised();
-}
-
-void XmlNameAllType::removeNames()
-{
-    m_objName.clear();
 }
 
 bool XmlNameAllType::isValid() const
@@ -179,31 +136,32 @@ XmlNameAllMultiType::XmlNameAllMultiType()
 {
 }
 
-const ElementForm& XmlNameAllMultiType::form() const
+const ContentModel& XmlNameAllMultiType::contentModel() const
 {
+    using Self = XmlNameAllMultiType;
     enum : Marks { All = 1, Name = 2 };
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(listWording)
-            .children({
-                {"All", All, All | Name, called<&XmlNameAllMultiType::removeNames>()},
-                {"Name", Name, All, items<&XmlNameAllMultiType::m_objNames>()},
+    // Odd: "All" may follow nothing, but names may follow names: a choice of which one branch is repeated.
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(listWording)
+            .rows({
+                Row("All", called<Self, &Self::resetChildren>())
+                    .alternative(1)
+                    .required()
+                    .marks(All)
+                    .refusedAfter(All | Name),
+                Row("Name", items<&Self::m_objNames>()).alternative(1).atLeastOnce().marks(Name).refusedAfter(All),
             })
             .completeWith(All)
             .completeWith(Name)
-            .whenComplete(callOwner<&XmlNameAllMultiType::setInitialised>)
-            .innerEnds({{"All", 0, 0, 0}});
-    return form;
+            .whenComplete([](XmlElementBase& owner) { static_cast<Self&>(owner).setInitialised(); })
+            .wrapperEnds({WrapperEnd("All")});
+    return model;
 }
 
 void XmlNameAllMultiType::setObjNames(const QList<XmlObjNameType*>& objNames)
 {
     m_objNames.set(objNames);
     setInitialised();
-}
-
-void XmlNameAllMultiType::removeNames()
-{
-    m_objNames.clear();
 }
 
 bool XmlNameAllMultiType::isValid() const

@@ -112,7 +112,7 @@ std::optional<double> quotient(quint64 digits, std::size_t decimals)
 
 } // namespace
 
-std::optional<double> plainReal(const QChar* begin, const QChar* end)
+std::optional<double> fastReal(const QChar* begin, const QChar* end)
 {
     const bool isNegative = begin != end && *begin == QLatin1Char('-');
     const QChar* const first = begin + (isNegative ? 1 : 0);
@@ -138,7 +138,7 @@ std::optional<double> plainReal(const QChar* begin, const QChar* end)
     return magnitude && isNegative ? std::optional<double>(-*magnitude) : magnitude;
 }
 
-std::optional<int> plainInteger(const QChar* begin, const QChar* end)
+std::optional<int> fastInteger(const QChar* begin, const QChar* end)
 {
     const bool isNegative = begin != end && *begin == QLatin1Char('-');
     const QChar* at = begin + (isNegative ? 1 : 0);
@@ -264,7 +264,7 @@ QString generalText(double value, int digits)
 
 } // namespace
 
-QString plainText(double value, NumberFormat format)
+QString fastText(double value, NumberFormat format)
 {
     return format.format == 'f' ? fixedText(value, format.digits) : generalText(value, format.digits);
 }
@@ -273,7 +273,7 @@ QString plainText(double value, NumberFormat format)
 
 } // namespace
 
-QString plainText(double, NumberFormat)
+QString fastText(double, NumberFormat)
 {
     return {};
 }
@@ -282,7 +282,7 @@ QString plainText(double, NumberFormat)
 
 QString numberText(double value, NumberFormat format)
 {
-    const QString text = plainText(value, format);
+    const QString text = fastText(value, format);
     return text.isNull() ? QString::number(value, format.format, format.digits) : text;
 }
 

@@ -20,7 +20,7 @@ struct NumberFormat {
 /// As QString::number() writes it.
 QString numberText(double value, NumberFormat format);
 /// The same by the short way; null for a number or format that needs Qt's.
-QString plainText(double value, NumberFormat format);
+QString fastText(double value, NumberFormat format);
 inline QString numberText(int value)
 {
     return QString::number(value);
@@ -28,15 +28,15 @@ inline QString numberText(int value)
 
 /// The number that \a begin to \a end say in plain decimals, `-?[0-9]+(\.[0-9]+)?`, of up to nineteen digits
 /// without the zeros at the end. Nothing for every other text.
-std::optional<double> plainReal(const QChar* begin, const QChar* end);
+std::optional<double> fastReal(const QChar* begin, const QChar* end);
 /// The same for `-?[0-9]+` of at most nine digits.
-std::optional<int> plainInteger(const QChar* begin, const QChar* end);
+std::optional<int> fastInteger(const QChar* begin, const QChar* end);
 
 /// A real number in the C locale; 0.0 when \a text is none.
 template <typename Text>
 double toReal(const Text& text, bool* ok = nullptr)
 {
-    if (const auto number = plainReal(text.data(), text.data() + text.size())) {
+    if (const auto number = fastReal(text.data(), text.data() + text.size())) {
         if (ok)
             *ok = true;
         return *number;
@@ -47,7 +47,7 @@ double toReal(const Text& text, bool* ok = nullptr)
 template <typename Text>
 int toInteger(const Text& text, bool* ok = nullptr)
 {
-    if (const auto number = plainInteger(text.data(), text.data() + text.size())) {
+    if (const auto number = fastInteger(text.data(), text.data() + text.size())) {
         if (ok)
             *ok = true;
         return *number;

@@ -1,6 +1,6 @@
 #include "arvxml/orderdef.h"
 
-#include "core/elementform.h"
+#include "core/contentmodel.h"
 #include "core/times.h"
 
 #include <QtCore/QDateTime>
@@ -28,15 +28,15 @@ XmlOrderDef::XmlOrderDef()
 {
 }
 
-const ElementForm& XmlOrderDef::form() const
+const ContentModel& XmlOrderDef::contentModel() const
 {
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(compositeWording)
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(compositeWording)
             .sequence({
                 required("ORDER_ID", text<XmlOrderDef, &XmlOrderDef::setOrderId, &XmlOrderDef::orderId>()),
                 required("ORDER_SENDER", text<XmlOrderDef, &XmlOrderDef::setOrderSender, &XmlOrderDef::orderSender>()),
             });
-    return form;
+    return model;
 }
 
 XmlOrderDef XmlOrderDef::createValidInstance()

@@ -1,9 +1,7 @@
 #include "arvxml/quantities.h"
 
-#include "core/elementreader.h"
-#include "core/quantity.h"
-
-#include <QtCore/QXmlStreamWriter>
+#include "core/quantityrules.h"
+#include "core/texts.h"
 
 #include <limits>
 
@@ -17,18 +15,92 @@ bool isNormalPositive(double value)
 {
     return value > std::numeric_limits<double>::min() && value < std::numeric_limits<double>::max();
 }
-bool isNotNormalPositive(double value)
-{
-    return !isNormalPositive(value);
-}
 
-bool isAnything(double)
+/// The nine quantities: unit, default, numbers, format, what is valid, whether NaN is reported, problems.
+struct AllRules {
+    QuantityRules dBm = {
+        QStringLiteral("dBm"), -110.0, QuantityRules::Real, {'f', 9},
+        isNormalPositive,      true,   "Illegal decibel.",  nullptr,
+    };
+    QuantityRules decibel = {
+        QStringLiteral("dB"), -0.0, QuantityRules::Real, {'f', 6}, isNormalPositive, true, "Illegal decibel.", nullptr,
+    };
+    QuantityRules degrees = {
+        QString(QChar(0x00B0)),
+        -0.0,
+        QuantityRules::Real,
+        {'f', 1},
+        [](double value) { return value >= 0.0 && value <= 90.0; },
+        true,
+        "Illegal decibel.", // an angle, and yet
+        nullptr,
+    };
+    QuantityRules length = {
+        QStringLiteral("m"),
+        0.0,
+        QuantityRules::Integer,
+        {'f', 0},
+        [](double) { return true; },
+        false,
+        nullptr,
+        "Illegal unit (must be \"m\").",
+    };
+    QuantityRules power = {
+        QStringLiteral("W"),
+        -9.9,
+        QuantityRules::Real,
+        {'f', 15},
+        [](double value) { return value >= -60.0; },
+        false,
+        "Illegal power.",
+        "Illegal unit.",
+    };
+    QuantityRules frequency = {
+        QStringLiteral("MHz"),
+        -9.9,
+        QuantityRules::Real,
+        {'f', 6},
+        [](double value) { return value > 0.0; },
+        false,
+        "Illegal frequency.",
+        "Illegal unit.",
+    };
+    QuantityRules bandwidth = {
+        QStringLiteral("kHz"),
+        -1.0,
+        QuantityRules::Integer,
+        {'g', 6},
+        [](double value) { return value >= 0.0; },
+        false,
+        "XmlDfPrecisionType: Illegal precision.", // names another class
+        "XmlDfPrecisionType: Illegal unit.",
+    };
+    QuantityRules fieldstrength = {
+        QStringLiteral("dBm"),
+        -99999.999,
+        QuantityRules::Real,
+        {'f', 15},
+        [](double value) { return value > -99999.989; },
+        false,
+        "Illegal fieldstrength.",
+        "Illegal unit.",
+    };
+    QuantityRules sinad = {
+        QString(),
+        0.0,
+        QuantityRules::Real,
+        {'f', 6},
+        isNormalPositive,
+        true,
+        "Illegal frequency.", // no frequency, and yet
+        nullptr,
+    };
+};
+
+const AllRules& rules()
 {
-    return true;
-}
-bool isNothing(double)
-{
-    return false;
+    static const NeverDestroyed<AllRules> rules = AllRules();
+    return rules;
 }
 
 /// A unit of frequency: what a number in it is multiplied by to give MHz, and what MHz are
@@ -56,263 +128,34 @@ const FrequencyUnit* frequencyUnit(const QString& unit)
 
 } // namespace
 
-// What all quantities do
-
-XmlQuantity::XmlQuantity(const QString& className, const QuantityRules& rules)
-    : XmlElement(className)
-    , m_value(rules.fallback)
-{
-}
-
-void XmlQuantity::processXml(QXmlStreamReader& reader, const QString& tagName)
-{
-    const QuantityRules& rules = this->rules();
-    ElementReader in(*this, reader, tagName, leafWording);
-    openElement(in);
-    in.readLeaf([&](const auto& text) {
-        bool ok = false;
-        const double number = rules.numbers == QuantityRules::Real ? toReal(text, &ok) : toInteger(text, &ok);
-        if (ok) {
-            takeNumber(number);
-        } else {
-            in.fail(QStringLiteral("Illegal value (must be numeric)"));
-            m_value = rules.fallback;
-        }
-    });
-}
-
-void XmlQuantity::produceXml(QXmlStreamWriter& writer, const QString& tagName) const
-{
-    writer.writeStartElement(tagName);
-    writeVersion(writer);
-    if (const QString* unit = writtenUnit())
-        writer.writeAttribute(unitAttribute(), *unit);
-    writer.writeCharacters(numberText(writtenNumber(), rules().format));
-    writer.writeEndElement();
-}
-
-bool XmlQuantity::isValid() const
-{
-    return supportsVersion() && rules().isValid(m_value) && isUnitValid();
-}
-
-void XmlQuantity::addErrors()
-{
-    addSyntaxError(versionError());
-    if (rules().isReported(m_value))
-        addSyntaxError(QString::fromLatin1(rules().valueError));
-    if (!isUnitValid())
-        addSyntaxError(QString::fromLatin1(rules().unitError));
-}
-
-void XmlQuantity::reset()
-{
-    m_value = rules().fallback;
-    restoreVersion();
-    XmlElement::reset();
-}
-
-void XmlQuantity::openElement(ElementReader& in)
-{
-    restoreVersion();
-    if (in.requireStartTag())
-        readVersion(in);
-}
-
-const QString* XmlQuantity::writtenUnit() const
-{
-    return nullptr;
-}
-
-bool XmlQuantity::isUnitValid() const
-{
-    return true;
-}
-
-void XmlQuantity::takeNumber(double number)
-{
-    m_value = number;
-}
-
-double XmlQuantity::writtenNumber() const
-{
-    return m_value;
-}
-
-const QString& XmlFixedUnitQuantity::unit() const
-{
-    return rules().unit;
-}
-
-const QString* XmlFixedUnitQuantity::writtenUnit() const
-{
-    return &unit();
-}
-
-XmlReadUnitQuantity::XmlReadUnitQuantity(const QString& className, const QuantityRules& rules)
-    : XmlQuantity(className, rules)
-    , m_unit(rules.unit)
-{
-}
-
-void XmlReadUnitQuantity::reset()
-{
-    m_unit = rules().unit;
-    XmlQuantity::reset();
-}
-
-void XmlReadUnitQuantity::openElement(ElementReader& in)
-{
-    restoreVersion();
-    if (in.requireStartTag()) {
-        keepText(in.requireAttribute(unitAttribute()), m_unit);
-        readVersion(in);
-    }
-}
-
-const QString* XmlReadUnitQuantity::writtenUnit() const
-{
-    return &m_unit;
-}
-
-bool XmlReadUnitQuantity::isUnitValid() const
-{
-    return isSameText(m_unit, rules().unit);
-}
-
-// The nine quantities, each with its rules:
-// unit, default, numbers, format, what is valid, what is reported, and how
-
-static const QuantityRules& dBmRules()
-{
-    static const NeverDestroyed<QuantityRules> rules = QuantityRules{
-        QStringLiteral("dBm"), -110.0,  QuantityRules::Real, {'f', 9}, isNormalPositive, isNotNormalPositive,
-        "Illegal decibel.",    nullptr,
-    };
-    return rules;
-}
-
 XmlDBMType::XmlDBMType()
-    : XmlFixedUnitQuantity(QStringLiteral("XmlDBMType"), dBmRules())
+    : XmlFixedUnitQuantity(QStringLiteral("XmlDBMType"), rules().dBm)
 {
-}
-
-const QuantityRules& XmlDBMType::rules() const
-{
-    return dBmRules();
-}
-
-static const QuantityRules& decibelRules()
-{
-    static const NeverDestroyed<QuantityRules> rules = QuantityRules{
-        QStringLiteral("dB"), -0.0,    QuantityRules::Real, {'f', 6}, isNormalPositive, isNotNormalPositive,
-        "Illegal decibel.",   nullptr,
-    };
-    return rules;
 }
 
 XmlDecibelType::XmlDecibelType()
-    : XmlFixedUnitQuantity(QStringLiteral("XmlDecibelType"), decibelRules())
+    : XmlFixedUnitQuantity(QStringLiteral("XmlDecibelType"), rules().decibel)
 {
-}
-
-const QuantityRules& XmlDecibelType::rules() const
-{
-    return decibelRules();
-}
-
-static const QuantityRules& degreesRules()
-{
-    static const NeverDestroyed<QuantityRules> rules = QuantityRules{
-        QString(QChar(0x00B0)),
-        -0.0,
-        QuantityRules::Real,
-        {'f', 1},
-        [](double value) { return value >= 0.0 && value <= 90.0; },
-        [](double value) { return !(value >= 0.0 && value <= 90.0); },
-        "Illegal decibel.", // an angle, and yet
-        nullptr,
-    };
-    return rules;
 }
 
 XmlDegreesType::XmlDegreesType()
-    : XmlFixedUnitQuantity(QStringLiteral("XmlDegreesType"), degreesRules())
+    : XmlFixedUnitQuantity(QStringLiteral("XmlDegreesType"), rules().degrees)
 {
-}
-
-const QuantityRules& XmlDegreesType::rules() const
-{
-    return degreesRules();
-}
-
-static const QuantityRules& lengthRules()
-{
-    static const NeverDestroyed<QuantityRules> rules = QuantityRules{
-        QStringLiteral("m"), 0.0,     QuantityRules::Integer,          {'f', 0}, isAnything,
-        isNothing,           nullptr, "Illegal unit (must be \"m\").",
-    };
-    return rules;
 }
 
 XmlLengthType::XmlLengthType()
-    : XmlReadUnitQuantity(QStringLiteral("XmlLengthType"), lengthRules())
+    : XmlReadUnitQuantity(QStringLiteral("XmlLengthType"), rules().length)
 {
-}
-
-const QuantityRules& XmlLengthType::rules() const
-{
-    return lengthRules();
-}
-
-static const QuantityRules& powerRules()
-{
-    static const NeverDestroyed<QuantityRules> rules = QuantityRules{
-        QStringLiteral("W"),
-        -9.9,
-        QuantityRules::Real,
-        {'f', 15},
-        [](double value) { return value >= -60.0; },
-        [](double value) { return value < -60.0; },
-        "Illegal power.",
-        "Illegal unit.",
-    };
-    return rules;
 }
 
 XmlPowerType::XmlPowerType()
-    : XmlReadUnitQuantity(QStringLiteral("XmlPowerType"), powerRules())
+    : XmlReadUnitQuantity(QStringLiteral("XmlPowerType"), rules().power)
 {
-}
-
-const QuantityRules& XmlPowerType::rules() const
-{
-    return powerRules();
-}
-
-static const QuantityRules& freqRules()
-{
-    static const NeverDestroyed<QuantityRules> rules = QuantityRules{
-        QStringLiteral("MHz"),
-        -9.9,
-        QuantityRules::Real,
-        {'f', 6},
-        [](double value) { return value > 0.0; },
-        [](double value) { return value <= 0.0; },
-        "Illegal frequency.",
-        "Illegal unit.",
-    };
-    return rules;
 }
 
 XmlFreqType::XmlFreqType()
-    : XmlReadUnitQuantity(QStringLiteral("XmlFreqType"), freqRules())
+    : XmlReadUnitQuantity(QStringLiteral("XmlFreqType"), rules().frequency)
 {
-}
-
-const QuantityRules& XmlFreqType::rules() const
-{
-    return freqRules();
 }
 
 bool XmlFreqType::isUnitValid() const
@@ -333,79 +176,19 @@ double XmlFreqType::writtenNumber() const
     return unit ? m_value * unit->fromMHz : m_value;
 }
 
-static const QuantityRules& bandwidthRules()
-{
-    static const NeverDestroyed<QuantityRules> rules = QuantityRules{
-        QStringLiteral("kHz"),
-        -1.0,
-        QuantityRules::Integer,
-        {'g', 6},
-        [](double value) { return value >= 0.0; },
-        [](double value) { return value < 0.0; },
-        "XmlDfPrecisionType: Illegal precision.", // names another class
-        "XmlDfPrecisionType: Illegal unit.",
-    };
-    return rules;
-}
-
 XmlBandwidthType::XmlBandwidthType()
-    : XmlReadUnitQuantity(QStringLiteral("XmlBandwidthType"), bandwidthRules())
+    : XmlReadUnitQuantity(QStringLiteral("XmlBandwidthType"), rules().bandwidth)
 {
-}
-
-const QuantityRules& XmlBandwidthType::rules() const
-{
-    return bandwidthRules();
-}
-
-static const QuantityRules& fieldstrengthRules()
-{
-    static const NeverDestroyed<QuantityRules> rules = QuantityRules{
-        QStringLiteral("dBm"),
-        -99999.999,
-        QuantityRules::Real,
-        {'f', 15},
-        [](double value) { return value > -99999.989; },
-        [](double value) { return value <= -99999.989; },
-        "Illegal fieldstrength.",
-        "Illegal unit.",
-    };
-    return rules;
 }
 
 XmlFieldstrengthType::XmlFieldstrengthType()
-    : XmlReadUnitQuantity(QStringLiteral("XmlFieldstrengthType"), fieldstrengthRules())
+    : XmlReadUnitQuantity(QStringLiteral("XmlFieldstrengthType"), rules().fieldstrength)
 {
-}
-
-const QuantityRules& XmlFieldstrengthType::rules() const
-{
-    return fieldstrengthRules();
-}
-
-static const QuantityRules& sinadRules()
-{
-    static const NeverDestroyed<QuantityRules> rules = QuantityRules{
-        QString(),
-        0.0,
-        QuantityRules::Real,
-        {'f', 6},
-        isNormalPositive,
-        isNotNormalPositive,
-        "Illegal frequency.", // no frequency, and yet
-        nullptr,
-    };
-    return rules;
 }
 
 XmlSinadType::XmlSinadType()
-    : XmlQuantity(QStringLiteral("XmlSinadType"), sinadRules())
+    : XmlQuantity(QStringLiteral("XmlSinadType"), rules().sinad)
 {
-}
-
-const QuantityRules& XmlSinadType::rules() const
-{
-    return sinadRules();
 }
 
 } // namespace ArvXml

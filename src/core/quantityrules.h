@@ -12,12 +12,12 @@ struct QuantityRules {
     enum Numbers { Real, Integer };
 
     QString unit;        ///< the fixed unit, or the one by default; empty when there is none
-    double fallback;     ///< the default, also stored for a text that is no number
+    double defaultValue; ///< also stored for a text that is no number
     Numbers numbers;     ///< what the text may be
     NumberFormat format; ///< how it is written
-    /// The two judges of a value: they differ for a value that is no number at all (NaN).
     bool (*isValid)(double value);
-    bool (*isReported)(double value);
+    bool
+        reportsNan; ///< whether syntaxError() reports a value that is no number (NaN); isValid() refuses it in any case
     const char* valueError;
     const char* unitError;
 };

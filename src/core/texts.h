@@ -44,17 +44,17 @@ inline bool isSameText(QStringView text, QStringView other)
 /// A text of the stream, to keep. With Qt 5, its toString() would share the stream's own buffer when that holds nothing
 /// else, with room for much more, and the stream would have to make itself another.
 template <typename Text>
-QString keptText(const Text& text)
+QString detachedCopy(const Text& text)
 {
     return QString(text.data(), static_cast<int>(text.size()));
 }
 
 /// Keeps \a text in \a held, unless it is empty. A constant that says the same stays: it takes no memory.
 template <typename Text>
-void keepText(const Text& text, QString& held)
+void assignUnlessEmpty(const Text& text, QString& held)
 {
     if (!text.isEmpty() && !isSameText(text, held))
-        held = keptText(text);
+        held = detachedCopy(text);
 }
 
 } // namespace ArvXml

@@ -1,6 +1,6 @@
 #include "arvxml/valuelists.h"
 
-#include "core/elementform.h"
+#include "core/contentmodel.h"
 
 namespace ArvXml {
 
@@ -9,11 +9,11 @@ XmlDBMListType::XmlDBMListType()
 {
 }
 
-const ElementForm& XmlDBMListType::form() const
+const ContentModel& XmlDBMListType::contentModel() const
 {
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(listWording).listOf("dBm", items<&XmlDBMListType::m_items>(), "Too few pairs (min. 1)");
-    return form;
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(listWording).listOf("dBm", items<&XmlDBMListType::m_items>(), "Too few pairs (min. 1)");
+    return model;
 }
 
 XmlDecibelListType::XmlDecibelListType()
@@ -21,11 +21,11 @@ XmlDecibelListType::XmlDecibelListType()
 {
 }
 
-const ElementForm& XmlDecibelListType::form() const
+const ContentModel& XmlDecibelListType::contentModel() const
 {
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(listWording).listOf("Decibel", items<&XmlDecibelListType::m_items>(), "Too few pairs (min. 1)");
-    return form;
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(listWording).listOf("Decibel", items<&XmlDecibelListType::m_items>(), "Too few pairs (min. 1)");
+    return model;
 }
 
 XmlDegreesListType::XmlDegreesListType()
@@ -33,11 +33,11 @@ XmlDegreesListType::XmlDegreesListType()
 {
 }
 
-const ElementForm& XmlDegreesListType::form() const
+const ContentModel& XmlDegreesListType::contentModel() const
 {
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(listWording).listOf("Degrees", items<&XmlDegreesListType::m_items>(), "Too few pairs (min. 1)");
-    return form;
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(listWording).listOf("Degrees", items<&XmlDegreesListType::m_items>(), "Too few pairs (min. 1)");
+    return model;
 }
 
 XmlFreqListType::XmlFreqListType()
@@ -45,12 +45,12 @@ XmlFreqListType::XmlFreqListType()
 {
 }
 
-const ElementForm& XmlFreqListType::form() const
+const ContentModel& XmlFreqListType::contentModel() const
 {
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(listWording)
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(listWording)
             .listOf("Frequency", items<&XmlFreqListType::m_items>(), "Too few frequencies (min. 1)");
-    return form;
+    return model;
 }
 
 XmlFreqThrPairType::XmlFreqThrPairType()
@@ -58,15 +58,15 @@ XmlFreqThrPairType::XmlFreqThrPairType()
 {
 }
 
-const ElementForm& XmlFreqThrPairType::form() const
+const ContentModel& XmlFreqThrPairType::contentModel() const
 {
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(listWording)
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(listWording)
             .sequence({
                 required("Frequency", child<&XmlFreqThrPairType::m_frequency>()),
                 required("RxThreshold", child<&XmlFreqThrPairType::m_threshold>()),
             });
-    return form;
+    return model;
 }
 
 XmlFreqThrListType::XmlFreqThrListType()
@@ -74,11 +74,11 @@ XmlFreqThrListType::XmlFreqThrListType()
 {
 }
 
-const ElementForm& XmlFreqThrListType::form() const
+const ContentModel& XmlFreqThrListType::contentModel() const
 {
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(listWording).listOf("Pair", items<&XmlFreqThrListType::m_items>(), "Too few pairs (min. 1)");
-    return form;
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(listWording).listOf("Pair", items<&XmlFreqThrListType::m_items>(), "Too few pairs (min. 1)");
+    return model;
 }
 
 } // namespace ArvXml

@@ -1,8 +1,31 @@
 #include "arvxml/areas.h"
 
-#include "core/elementform.h"
+#include "core/contentmodel.h"
 
 namespace ArvXml {
+
+namespace {
+
+/// A rectangle or a polygon: reading one removes the other. The rectangle's binding judges and reports the choice.
+template <auto Rectangle, auto Polygon>
+Particle rectangleOrPolygon()
+{
+    Binding rectangle = readInsteadOf<Rectangle, Polygon>();
+    rectangle.isValid = [](const XmlElementBase& owner) {
+        const auto& held = memberOf<Rectangle>(owner);
+        return held.isPresent() != memberOf<Polygon>(owner).isPresent() && isMemberValid(held);
+    };
+    rectangle.syntaxError = [](XmlElementBase& owner) {
+        auto& held = memberOf<Rectangle>(owner);
+        auto& polygon = memberOf<Polygon>(owner);
+        if (held.isPresent() == polygon.isPresent())
+            return QStringLiteral("Neither AreaRect nor AreaPolygon"); // also for both
+        return held.isPresent() ? memberError(held) : memberError(polygon);
+    };
+    return oneOf({{"AreaRect", rectangle}, {"AreaPolygon", unreported(readInsteadOf<Polygon, Rectangle>())}});
+}
+
+} // namespace
 
 // What both have
 
@@ -18,27 +41,6 @@ void XmlPlanArea::setAreaPoly(const XmlAreaPolyType& polygon)
     m_areaRect.clear();
 }
 
-Content XmlPlanArea::areaRectChild()
-{
-    Content content = readInsteadOf<&XmlPlanArea::m_areaRect, &XmlPlanArea::m_areaPoly>();
-    content.isValid = [](const XmlElementBase& owner) {
-        const auto& self = static_cast<const XmlPlanArea&>(owner);
-        return self.hasAreaRect() != self.hasAreaPoly() && isMemberValid(self.m_areaRect);
-    };
-    content.syntaxError = [](XmlElementBase& owner) {
-        auto& self = static_cast<XmlPlanArea&>(owner);
-        if (self.hasAreaRect() == self.hasAreaPoly())
-            return QStringLiteral("Neither AreaRect nor AreaPolygon"); // also for both
-        return self.hasAreaRect() ? memberError(self.m_areaRect) : memberError(self.m_areaPoly);
-    };
-    return content;
-}
-
-Content XmlPlanArea::areaPolyChild()
-{
-    return reportedApart(readInsteadOf<&XmlPlanArea::m_areaPoly, &XmlPlanArea::m_areaRect>());
-}
-
 // A deployment area
 
 XmlDeploymentAreaType::XmlDeploymentAreaType()
@@ -46,22 +48,22 @@ XmlDeploymentAreaType::XmlDeploymentAreaType()
 {
 }
 
-const ElementForm& XmlDeploymentAreaType::form() const
+const ContentModel& XmlDeploymentAreaType::contentModel() const
 {
     using Self = XmlDeploymentAreaType;
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(listWording)
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(listWording)
             .sequence({
                 optional("SignalPath", reused<&Self::m_signalPath>()),
                 required("Name", child<&Self::m_objName>()),
-                oneOf({{"AreaRect", areaRectChild()}, {"AreaPolygon", areaPolyChild()}}),
+                rectangleOrPolygon<&Self::m_areaRect, &Self::m_areaPoly>(),
                 required("AntennaHeight", child<&Self::m_antennaHeight>()),
                 required("RxThreshold", child<&Self::m_rxThreshold>()),
                 required("Frequency", child<&Self::m_txFrequency>()),
                 required("TxPower", child<&Self::m_txPower>()),
             })
             .refusesOtherVersions();
-    return form;
+    return model;
 }
 
 // An area of interest
@@ -71,19 +73,19 @@ XmlAoiType::XmlAoiType()
 {
 }
 
-const ElementForm& XmlAoiType::form() const
+const ContentModel& XmlAoiType::contentModel() const
 {
     using Self = XmlAoiType;
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(listWording)
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(listWording)
             .sequence({
                 required("Name", child<&Self::m_objName>()),
-                oneOf({{"AreaRect", areaRectChild()}, {"AreaPolygon", areaPolyChild()}}),
+                rectangleOrPolygon<&Self::m_areaRect, &Self::m_areaPoly>(),
                 required("TxParameter", child<&Self::m_txParam>()),
                 optional("RxThreshold", renewed<&Self::m_rxThreshold>()),
             })
             .refusesOtherVersions();
-    return form;
+    return model;
 }
 
 void XmlAoiType::reset()

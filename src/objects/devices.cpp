@@ -1,7 +1,7 @@
 #include "arvxml/devices.h"
 
-#include "core/elementform.h"
-#include "core/enumeration.h"
+#include "core/contentmodel.h"
+#include "core/enumerationrules.h"
 
 namespace ArvXml {
 
@@ -27,7 +27,7 @@ XmlDeviceType::XmlDeviceType()
 {
 }
 
-const ElementForm& XmlDeviceType::form() const
+const ContentModel& XmlDeviceType::contentModel() const
 {
     using Self = XmlDeviceType;
     enum : Marks {
@@ -44,20 +44,23 @@ const ElementForm& XmlDeviceType::form() const
     constexpr Marks Fixed = Category | Name | Frequencies;
     constexpr Marks Lists = Noises | KFactors | Attenuations | Gains | Degrees | Dbm;
     constexpr Marks All = Fixed | Lists;
-    // The order is that of writing. The gates of the lists contradict it: KFactors is written second but
-    // refused before Gains, Degrees and DBM.
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(listWording)
-            .children({
-                {"DeviceCategory", Category, All, child<&Self::m_category>()},
-                {"Name", Name, Name | Frequencies | Lists, child<&Self::m_objName>()},
-                {"Frequencies", Frequencies, Frequencies | Lists, child<&Self::m_frequencies>()},
-                {"Noises", Noises, Lists, reused<&Self::m_noises>()},
-                {"KFactors", KFactors, KFactors | Attenuations, reused<&Self::m_kFactors>()},
-                {"Attenuations", Attenuations, Lists, reused<&Self::m_attenuations>()},
-                {"Gains", Gains, KFactors | Attenuations | Gains | Degrees | Dbm, reused<&Self::m_gains>()},
-                {"Degrees", Degrees, KFactors | Attenuations | Gains | Degrees | Dbm, reused<&Self::m_accuracies>()},
-                {"DBM", Dbm, KFactors | Attenuations | Dbm, reused<&Self::m_levels>()},
+    // Odd: which lists there are decides what the device is, and the gates of the lists contradict the order of
+    // writing: KFactors is written second but refused before Gains, Degrees and DBM.
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(listWording)
+            .rows({
+                Row("DeviceCategory", child<&Self::m_category>()).required().marks(Category).refusedAfter(All),
+                Row("Name", child<&Self::m_objName>()).required().marks(Name).refusedAfter(Name | Frequencies | Lists),
+                Row("Frequencies", child<&Self::m_frequencies>())
+                    .required()
+                    .marks(Frequencies)
+                    .refusedAfter(Frequencies | Lists),
+                Row("Noises", reused<&Self::m_noises>()).marks(Noises).refusedAfter(Lists),
+                Row("KFactors", reused<&Self::m_kFactors>()).marks(KFactors).refusedAfter(KFactors | Attenuations),
+                Row("Attenuations", reused<&Self::m_attenuations>()).marks(Attenuations).refusedAfter(Lists),
+                Row("Gains", reused<&Self::m_gains>()).marks(Gains).refusedAfter(Lists & ~Noises),
+                Row("Degrees", reused<&Self::m_accuracies>()).marks(Degrees).refusedAfter(Lists & ~Noises),
+                Row("DBM", reused<&Self::m_levels>()).marks(Dbm).refusedAfter(KFactors | Attenuations | Dbm),
             })
             .completeWhen(All, Fixed | Noises)
             .completeWhen(All, Fixed | Noises | KFactors | Gains | Dbm)
@@ -65,7 +68,7 @@ const ElementForm& XmlDeviceType::form() const
             .completeWhen(All, Fixed | KFactors)
             .completeWhen(All, Fixed | Attenuations)
             .refusesOtherVersions();
-    return form;
+    return model;
 }
 
 XmlDeviceListType::XmlDeviceListType()
@@ -73,11 +76,11 @@ XmlDeviceListType::XmlDeviceListType()
 {
 }
 
-const ElementForm& XmlDeviceListType::form() const
+const ContentModel& XmlDeviceListType::contentModel() const
 {
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(listWording).listOf("Device", items<&XmlDeviceListType::m_items>(), "Too few devices (min. 1)");
-    return form;
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(listWording).listOf("Device", items<&XmlDeviceListType::m_items>(), "Too few devices (min. 1)");
+    return model;
 }
 
 // A map entry
@@ -89,17 +92,17 @@ XmlMapType::XmlMapType()
     m_value.renew();
 }
 
-const ElementForm& XmlMapType::form() const
+const ContentModel& XmlMapType::contentModel() const
 {
-    static const NeverDestroyed<ElementForm> form = [] {
-        Content key = unjudged(reused<&XmlMapType::m_key>());
-        const Content value = reused<&XmlMapType::m_value>();
+    static const NeverDestroyed<ContentModel> model = [] {
+        Binding key = unjudged(reused<&XmlMapType::m_key>());
+        const Binding value = reused<&XmlMapType::m_value>();
         key.write = value.write; // the value is written in the place of the key, too
-        return ElementForm(listWording)
+        return ContentModel(listWording)
             .sequence({required("Key", key), required("Value", value)})
             .refusesOtherVersions();
     }();
-    return form;
+    return model;
 }
 
 bool XmlMapType::isValid() const
@@ -112,11 +115,11 @@ XmlMapListType::XmlMapListType()
 {
 }
 
-const ElementForm& XmlMapListType::form() const
+const ContentModel& XmlMapListType::contentModel() const
 {
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(listWording).listOf("Map", items<&XmlMapListType::m_items>(), "Too few mappings (min. 1)");
-    return form;
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(listWording).listOf("Map", items<&XmlMapListType::m_items>(), "Too few mappings (min. 1)");
+    return model;
 }
 
 } // namespace ArvXml

@@ -1,7 +1,7 @@
 #include "arvxml/emitters.h"
 
-#include "core/elementform.h"
-#include "core/quantity.h"
+#include "core/contentmodel.h"
+#include "core/quantityrules.h"
 
 namespace ArvXml {
 
@@ -13,7 +13,7 @@ static const QuantityRules& dfPrecisionRules()
         QuantityRules::Integer,
         {'f', 0},
         [](double value) { return value >= -1.0; },
-        [](double value) { return value < -1.0; },
+        false,
         "XmlDfPrecisionType: Illegal precision.",
         "XmlDfPrecisionType: Illegal unit.",
     };
@@ -25,27 +25,22 @@ XmlDfPrecisionType::XmlDfPrecisionType()
 {
 }
 
-const QuantityRules& XmlDfPrecisionType::rules() const
-{
-    return dfPrecisionRules();
-}
-
 XmlEmitterType::XmlEmitterType()
     : XmlSite(QStringLiteral("XmlEmitterType"))
 {
 }
 
-const ElementForm& XmlEmitterType::form() const
+const ContentModel& XmlEmitterType::contentModel() const
 {
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(listWording)
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(listWording)
             .sequence({
                 required("Name", child<&XmlEmitterType::m_objName>()),
                 required("Position", child<&XmlEmitterType::m_position>()),
                 required("TxParameter", child<&XmlEmitterType::m_txParam>()),
             })
             .refusesOtherVersions();
-    return form;
+    return model;
 }
 
 XmlDfType::XmlDfType()
@@ -53,10 +48,10 @@ XmlDfType::XmlDfType()
 {
 }
 
-const ElementForm& XmlDfType::form() const
+const ContentModel& XmlDfType::contentModel() const
 {
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(listWording)
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(listWording)
             .sequence({
                 required("Name", child<&XmlDfType::m_objName>()),
                 required("Position", child<&XmlDfType::m_position>()),
@@ -65,7 +60,7 @@ const ElementForm& XmlDfType::form() const
                 optional("StationInterlink", renewed<&XmlDfType::m_interlink>()),
             })
             .refusesOtherVersions();
-    return form;
+    return model;
 }
 
 } // namespace ArvXml

@@ -1,6 +1,7 @@
 #include "arvxml/signalpaths.h"
 
-#include "core/elementform.h"
+#include "core/contentmodel.h"
+#include "core/versions.h"
 
 namespace ArvXml {
 
@@ -9,10 +10,10 @@ XmlSignalPathType::XmlSignalPathType()
 {
 }
 
-const ElementForm& XmlSignalPathType::form() const
+const ContentModel& XmlSignalPathType::contentModel() const
 {
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(listWording)
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(listWording)
             .sequence({
                 required("Name", child<&XmlSignalPathType::m_objName>()),
                 required("SINAD", child<&XmlSignalPathType::m_sinad>()),
@@ -21,7 +22,7 @@ const ElementForm& XmlSignalPathType::form() const
                 optional("CabLenMap", reused<&XmlSignalPathType::m_cableLengths>()),
             })
             .refusesOtherVersions();
-    return form;
+    return model;
 }
 
 XmlTxParamType::XmlTxParamType()
@@ -29,17 +30,17 @@ XmlTxParamType::XmlTxParamType()
 {
 }
 
-const ElementForm& XmlTxParamType::form() const
+const ContentModel& XmlTxParamType::contentModel() const
 {
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(listWording)
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(listWording)
             .sequence({
                 required("Frequency", child<&XmlTxParamType::m_frequency>()),
                 required("TxPower", child<&XmlTxParamType::m_txPower>()),
                 required("AntennaHeight", child<&XmlTxParamType::m_antennaHeight>()),
                 required("Bandwidth", child<&XmlTxParamType::m_bandwidth>()),
             });
-    return form;
+    return model;
 }
 
 XmlRxParamType::XmlRxParamType()
@@ -47,34 +48,62 @@ XmlRxParamType::XmlRxParamType()
 {
 }
 
-const ElementForm& XmlRxParamType::form() const
+const ContentModel& XmlRxParamType::contentModel() const
 {
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(listWording)
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(listWording)
             .sequence({
                 required("AntennaHeight", child<&XmlRxParamType::m_antennaHeight>()),
                 required("RxThreshold", child<&XmlRxParamType::m_rxThreshold>()),
             });
-    return form;
+    return model;
 }
 
 XmlStationInterlinkType::XmlStationInterlinkType()
-    : XmlVersionedComposite(QStringLiteral("XmlStationInterlinkType"))
+    : XmlComposite(QStringLiteral("XmlStationInterlinkType"))
+    , m_version(supportedVersion())
 {
 }
 
-const ElementForm& XmlStationInterlinkType::form() const
+bool XmlStationInterlinkType::supportsVersion() const
+{
+    return isSupportedVersion(m_version);
+}
+
+const ContentModel& XmlStationInterlinkType::contentModel() const
 {
     using Self = XmlStationInterlinkType;
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(listWording)
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(listWording)
             .sequence({
                 required("Frequency", child<&Self::m_frequency>()),
                 required("TxPower", writtenAs("Power", child<&Self::m_power>())),
                 required("RxThreshold", child<&Self::m_rxThreshold>()),
                 required("AntennaHeight", child<&Self::m_antennaHeight>()),
-            });
-    return form;
+            })
+            .attributes(
+                [](XmlElementBase& owner, ElementReader& in) { readVersion(in, static_cast<Self&>(owner).m_version); },
+                [](const XmlElementBase& owner, QXmlStreamWriter& writer) {
+                    writeVersion(writer, static_cast<const Self&>(owner).m_version);
+                });
+    return model;
+}
+
+bool XmlStationInterlinkType::isValid() const
+{
+    return supportsVersion() && XmlComposite::isValid();
+}
+
+void XmlStationInterlinkType::addErrors()
+{
+    addSyntaxError(versionError(m_version));
+    addChildrenErrors();
+}
+
+void XmlStationInterlinkType::reset()
+{
+    m_version = supportedVersion();
+    XmlComposite::reset();
 }
 
 } // namespace ArvXml

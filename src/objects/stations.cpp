@@ -1,6 +1,6 @@
 #include "arvxml/stations.h"
 
-#include "core/elementform.h"
+#include "core/contentmodel.h"
 
 namespace ArvXml {
 
@@ -9,10 +9,10 @@ XmlStationType::XmlStationType()
 {
 }
 
-const ElementForm& XmlStationType::form() const
+const ContentModel& XmlStationType::contentModel() const
 {
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(compositeWording)
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(compositeWording)
             .sequence({
                 required("Name", child<&XmlStationType::m_objName>()),
                 optional("SignalPath", reused<&XmlStationType::m_signalPath>()),
@@ -21,7 +21,7 @@ const ElementForm& XmlStationType::form() const
                 optional("DFprecision", reused<&XmlStationType::m_dfPrecision>()),
                 optional("StationInterlink", reused<&XmlStationType::m_interlink>()),
             });
-    return form;
+    return model;
 }
 
 XmlReceiverType::XmlReceiverType()
@@ -29,10 +29,10 @@ XmlReceiverType::XmlReceiverType()
 {
 }
 
-const ElementForm& XmlReceiverType::form() const
+const ContentModel& XmlReceiverType::contentModel() const
 {
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(listWording)
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(listWording)
             .sequence({
                 required("Name", child<&XmlReceiverType::m_objName>()),
                 required("Position", child<&XmlReceiverType::m_position>()),
@@ -40,7 +40,7 @@ const ElementForm& XmlReceiverType::form() const
                 optional("StationInterlink", renewed<&XmlReceiverType::m_interlink>()),
             })
             .refusesOtherVersions();
-    return form;
+    return model;
 }
 
 } // namespace ArvXml

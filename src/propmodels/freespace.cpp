@@ -5,12 +5,11 @@
 namespace ArvXml {
 
 XmlPropModelFSType::XmlPropModelFSType()
-    : XmlParameterSet(QStringLiteral("XmlPropModelFSType"))
+    : XmlParameterSet(QStringLiteral("XmlPropModelFSType"), table())
 {
-    resetParameters();
 }
 
-const ParameterTable& XmlPropModelFSType::table() const
+const ParameterTable& XmlPropModelFSType::table()
 {
     // real: tag, default, decimals, lowest, highest, problem out of range, reader error
     static const NeverDestroyed<ParameterTable> table =

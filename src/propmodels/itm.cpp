@@ -25,12 +25,11 @@ std::vector<QString> itmSurfaces()
 } // namespace
 
 XmlPropModelITMType::XmlPropModelITMType()
-    : XmlParameterSet(QStringLiteral("XmlPropModelITMType"))
+    : XmlParameterSet(QStringLiteral("XmlPropModelITMType"), table())
 {
-    resetParameters();
 }
 
-const ParameterTable& XmlPropModelITMType::table() const
+const ParameterTable& XmlPropModelITMType::table()
 {
     // real: tag, default, decimals, lowest, highest, problem out of range, reader error
     // definedChoice: tag, texts from value 0 on, problem of value 0, reader error
@@ -51,7 +50,7 @@ const ParameterTable& XmlPropModelITMType::table() const
                 {TimeRow,
                  real("Time", 0.5, 2, 0.0, 100.0, "Time out of bounds", "Illegal Time value (must be numeric)")},
             })
-            .reportedInOrder({RriRow, ConfRow, TimeRow, ClimateRow, PolRow, SurfaceRow});
+            .reportedFirst({RriRow, ConfRow, TimeRow, ClimateRow});
     return table;
 }
 

@@ -19,12 +19,11 @@ std::vector<QString> hataSizes()
 } // namespace
 
 XmlPropModelHataType::XmlPropModelHataType()
-    : XmlParameterSet(QStringLiteral("XmlPropModelHataType"))
+    : XmlParameterSet(QStringLiteral("XmlPropModelHataType"), table())
 {
-    resetParameters();
 }
 
-const ParameterTable& XmlPropModelHataType::table() const
+const ParameterTable& XmlPropModelHataType::table()
 {
     // real: tag, default, decimals, lowest, highest, problem out of range, reader error
     // definedChoice: tag, texts from value 0 on, problem of value 0, reader error

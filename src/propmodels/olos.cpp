@@ -5,12 +5,11 @@
 namespace ArvXml {
 
 XmlPropModelOLOSType::XmlPropModelOLOSType()
-    : XmlParameterSet(QStringLiteral("XmlPropModelOLOSType"))
+    : XmlParameterSet(QStringLiteral("XmlPropModelOLOSType"), table())
 {
-    resetParameters();
 }
 
-const ParameterTable& XmlPropModelOLOSType::table() const
+const ParameterTable& XmlPropModelOLOSType::table()
 {
     // real: tag, default, decimals, lowest, highest, problem out of range, reader error
     static const NeverDestroyed<ParameterTable> table =

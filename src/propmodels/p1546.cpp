@@ -19,12 +19,11 @@ std::vector<QString> p1546Environments()
 } // namespace
 
 XmlPropModelP1546Type::XmlPropModelP1546Type()
-    : XmlParameterSet(QStringLiteral("XmlPropModelP1546Type"))
+    : XmlParameterSet(QStringLiteral("XmlPropModelP1546Type"), table())
 {
-    resetParameters();
 }
 
-const ParameterTable& XmlPropModelP1546Type::table() const
+const ParameterTable& XmlPropModelP1546Type::table()
 {
     // real: tag, default, decimals, lowest, highest, problem out of range, reader error
     // choice: tag, default, texts from value 0 on, reader error
@@ -35,13 +34,13 @@ const ParameterTable& XmlPropModelP1546Type::table() const
          real("TimePct", 50.0, 2, 0.01, 50.0, "TimePct out of bounds", "Illegal TimePct value (must be numeric)")},
         {PathRow, choice("PropPathType", PathUndefined, p1546Paths(), "Illegal enum for PropPathType")},
         {LocVarRow,
-         badTextClears(
+         readErrorClears(
              TimeRow,
              real("LocVar", 50.0, 2, 1.0, 99.0, "LocVar out of bounds", "Illegal LocVar value (must be numeric)"))},
         {BroadAntGainRow,
-         afterBadText(50.0,
-                      real("BoardAntGain", 0.0, 3, 0.0, 99.999, "BroadAntGain out of bounds",
-                           "Illegal BoardAntGain value (must be numeric)"))},
+         valueAfterReadError(50.0,
+                             real("BoardAntGain", 0.0, 3, 0.0, 99.999, "BroadAntGain out of bounds",
+                                  "Illegal BoardAntGain value (must be numeric)"))},
         {RxAntERow, choice("RxAntEnviro", EnvironmentUndefined, p1546Environments(), "Illegal enum for RxAntEnviro")},
         {AvgAreaERow,
          choice("AvgAreaEnviro", EnvironmentUndefined, p1546Environments(), "Illegal enum for AvgAreaEnviro")},

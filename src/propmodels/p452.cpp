@@ -5,12 +5,11 @@
 namespace ArvXml {
 
 XmlPropModelP452Type::XmlPropModelP452Type()
-    : XmlParameterSet(QStringLiteral("XmlPropModelP542Type")) // not its own name
+    : XmlParameterSet(QStringLiteral("XmlPropModelP542Type"), table()) // not its own name
 {
-    resetParameters();
 }
 
-const ParameterTable& XmlPropModelP452Type::table() const
+const ParameterTable& XmlPropModelP452Type::table()
 {
     // real: tag, default, decimals, lowest, highest, problem out of range, reader error
     // integer: tag, default, lowest, highest, problem out of range, reader error

@@ -19,12 +19,11 @@ std::vector<QString> p526Surfaces()
 } // namespace
 
 XmlPropModelP526Type::XmlPropModelP526Type()
-    : XmlParameterSet(QStringLiteral("XmlPropModelP526Type"))
+    : XmlParameterSet(QStringLiteral("XmlPropModelP526Type"), table())
 {
-    resetParameters();
 }
 
-const ParameterTable& XmlPropModelP526Type::table() const
+const ParameterTable& XmlPropModelP526Type::table()
 {
     // real: tag, default, decimals, lowest, highest, problem out of range, reader error
     // choice: tag, default, texts from value 0 on, reader error

@@ -5,12 +5,11 @@
 namespace ArvXml {
 
 XmlPropModelP533Type::XmlPropModelP533Type()
-    : XmlParameterSet(QStringLiteral("XmlPropModelP526Type")) // not its own name
+    : XmlParameterSet(QStringLiteral("XmlPropModelP526Type"), table()) // not its own name
 {
-    resetParameters();
 }
 
-const ParameterTable& XmlPropModelP533Type::table() const
+const ParameterTable& XmlPropModelP533Type::table()
 {
     // real: tag, default, decimals, lowest, highest, problem out of range, reader error
     static const NeverDestroyed<ParameterTable> table = ParameterTable{

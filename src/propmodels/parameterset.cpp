@@ -10,6 +10,13 @@
 
 namespace ArvXml {
 
+XmlParameterSet::XmlParameterSet(const QString& className, const ParameterTable& table)
+    : XmlElement(className)
+    , m_table(table)
+{
+    resetParameters();
+}
+
 XmlParameterSet& XmlParameterSet::operator=(XmlParameterSet&& other) noexcept
 {
     XmlElement::operator=(other);
@@ -19,10 +26,10 @@ XmlParameterSet& XmlParameterSet::operator=(XmlParameterSet&& other) noexcept
 
 void XmlParameterSet::processXml(QXmlStreamReader& reader, const QString& tagName)
 {
-    const ParameterTable& table = this->table();
+    const ParameterTable& table = *m_table;
     if (table.isResetBeforeReading())
         reset();
-    ElementReader in(*this, reader, tagName, compositeWording);
+    ElementReader in(classname(), reader, tagName, compositeWording);
 
     int open = 0; // the first parameter that may still come
     const auto onStart = [&] {
@@ -47,7 +54,7 @@ void XmlParameterSet::processXml(QXmlStreamReader& reader, const QString& tagNam
 
 void XmlParameterSet::readParameter(int parameter, ElementReader& in)
 {
-    const ParameterRow& row = table().row(parameter);
+    const ParameterRow& row = m_table->row(parameter);
     const QString text = in.childText();
 
     bool ok = false;
@@ -67,44 +74,44 @@ void XmlParameterSet::readParameter(int parameter, ElementReader& in)
     } break;
     }
 
-    setValue(parameter, ok ? value : row.afterBadText);
+    setValue(parameter, ok ? value : row.valueAfterReadError);
     if (!ok) {
-        at(row.clearedByBadText.value_or(parameter)).isPresent = false;
+        at(row.clearedByReadError.value_or(parameter)).isPresent = false;
         in.fail(row.readError);
     }
 }
 
-QString XmlParameterSet::writtenText(int parameter) const
+/// How \a value is written.
+static QString writtenText(const ParameterRow& row, double value)
 {
-    const ParameterRow& row = table().row(parameter);
     switch (row.kind) {
     case ParameterRow::Real:
-        return numberText(realValue(parameter), NumberFormat{'f', row.decimals});
+        return numberText(value, NumberFormat{'f', row.decimals});
     case ParameterRow::Integer:
-        return numberText(integerValue(parameter));
+        return numberText(static_cast<int>(value));
     case ParameterRow::Choice:
         break;
     }
-    const int value = integerValue(row.textChosenBy.value_or(parameter));
-    const bool hasText = value >= 0 && value < static_cast<int>(row.texts.size());
-    return row.texts[static_cast<std::size_t>(hasText ? value : static_cast<int>(row.byDefault))];
+    const int choice = static_cast<int>(value);
+    const bool hasText = choice >= 0 && choice < static_cast<int>(row.texts.size());
+    return row.texts[static_cast<std::size_t>(hasText ? choice : static_cast<int>(row.byDefault))];
 }
 
 void XmlParameterSet::produceXml(QXmlStreamWriter& writer, const QString& tagName) const
 {
     writer.writeStartElement(tagName);
-    for (int parameter = 0; parameter < table().size(); ++parameter) {
-        const QString& tag = table().row(parameter).writtenTag;
-        if (isPresent(parameter))
-            writer.writeTextElement(tag.isNull() ? tagName : tag, writtenText(parameter));
+    for (int parameter = 0; parameter < m_table->size(); ++parameter) {
+        const ParameterRow& row = m_table->row(parameter);
+        if (!isPresent(parameter))
+            continue;
+        const double value = realValue(row.textChosenBy.value_or(parameter));
+        writer.writeTextElement(row.writtenTag.isNull() ? tagName : row.writtenTag, writtenText(row, value));
     }
     writer.writeEndElement();
 }
 
-bool XmlParameterSet::isParameterValid(int parameter) const
+static bool isAcceptable(const ParameterRow& row, double value)
 {
-    const ParameterRow& row = table().row(parameter);
-    const double value = realValue(parameter);
     if (row.kind == ParameterRow::Choice)
         return !row.zeroIsUndefined || value != 0.0;
     return !(value < row.min || value > row.max); // NaN passes
@@ -112,8 +119,8 @@ bool XmlParameterSet::isParameterValid(int parameter) const
 
 bool XmlParameterSet::isValid() const
 {
-    for (int parameter = 0; parameter < table().size(); ++parameter) {
-        if (isPresent(parameter) && !isParameterValid(parameter))
+    for (int parameter = 0; parameter < m_table->size(); ++parameter) {
+        if (isPresent(parameter) && !isAcceptable(m_table->row(parameter), realValue(parameter)))
             return false;
     }
     return true;
@@ -121,17 +128,17 @@ bool XmlParameterSet::isValid() const
 
 void XmlParameterSet::addErrors()
 {
-    for (const int parameter : table().reportOrder()) {
-        if (isPresent(parameter) && !isParameterValid(parameter))
-            addSyntaxError(table().row(parameter).rangeError);
+    for (const int parameter : m_table->reportOrder()) {
+        if (isPresent(parameter) && !isAcceptable(m_table->row(parameter), realValue(parameter)))
+            addSyntaxError(m_table->row(parameter).rangeError);
     }
 }
 
 void XmlParameterSet::resetParameters()
 {
     m_parameters.clear();
-    for (int parameter = 0; parameter < table().size(); ++parameter)
-        m_parameters.push_back({table().row(parameter).byDefault, false});
+    for (int parameter = 0; parameter < m_table->size(); ++parameter)
+        m_parameters.push_back({m_table->row(parameter).byDefault, false});
 }
 
 void XmlParameterSet::reset()

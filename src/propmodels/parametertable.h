@@ -4,6 +4,7 @@
 
 #include <QtCore/QString>
 
+#include <algorithm>
 #include <initializer_list>
 #include <limits>
 #include <optional>
@@ -17,20 +18,20 @@ struct ParameterRow {
     enum Kind { Real, Integer, Choice };
 
     Kind kind = Real;
-    QString tag;               ///< read under this tag
-    QString writtenTag;        ///< written under this one; null for the tag of the set itself
-    double byDefault = 0.0;    ///< the value of a new set; its text also stands for a choice outside the texts
-    double afterBadText = 0.0; ///< the value after a text that cannot be read
-    int decimals = 0;          ///< how many are written
+    QString tag;                      ///< read under this tag
+    QString writtenTag;               ///< written under this one; null for the tag of the set itself
+    double byDefault = 0.0;           ///< the value of a new set; its text also stands for a choice outside the texts
+    double valueAfterReadError = 0.0; ///< the value after a text that cannot be read
+    int decimals = 0;                 ///< how many are written
     double min = -std::numeric_limits<double>::infinity();
     double max = std::numeric_limits<double>::infinity();
-    QString rangeError;                  ///< the problem of a value that is out of range (NaN never is) or undefined
-    QString readError;                   ///< raised for a text that cannot be read
-    std::vector<QString> texts;          ///< of a choice, by value
-    bool zeroIsUndefined = false;        ///< whether value 0 of a choice is not read, and a problem
-    bool isRepeatable = false;           ///< whether it may come again while none after it has been read
-    std::optional<int> clearedByBadText; ///< the parameter whose flag a bad text clears, if not its own
-    std::optional<int> textChosenBy;     ///< the parameter whose value chooses the text written, if not its own
+    QString rangeError;                    ///< the problem of a value that is out of range (NaN never is) or undefined
+    QString readError;                     ///< raised for a text that cannot be read
+    std::vector<QString> texts;            ///< of a choice, by value
+    bool zeroIsUndefined = false;          ///< whether value 0 of a choice is not read, and a problem
+    bool isRepeatable = false;             ///< whether it may come again while none after it has been read
+    std::optional<int> clearedByReadError; ///< the parameter whose flag a bad text clears, if not its own
+    std::optional<int> textChosenBy;       ///< the parameter whose value chooses the text written, if not its own
 };
 
 /// The texts of a choice, that of value 0 first.
@@ -54,7 +55,7 @@ inline ParameterRow real(const char* tag, double byDefault, int decimals, double
 {
     ParameterRow row;
     row.tag = row.writtenTag = QString::fromLatin1(tag);
-    row.byDefault = row.afterBadText = byDefault;
+    row.byDefault = row.valueAfterReadError = byDefault;
     row.decimals = decimals;
     row.min = min;
     row.max = max;
@@ -78,7 +79,7 @@ inline ParameterRow choice(const char* tag, int byDefault, std::vector<QString> 
     ParameterRow row;
     row.kind = ParameterRow::Choice;
     row.tag = row.writtenTag = QString::fromLatin1(tag);
-    row.byDefault = row.afterBadText = byDefault;
+    row.byDefault = row.valueAfterReadError = byDefault;
     row.readError = QString::fromLatin1(readError);
     row.texts = std::move(texts);
     return row;
@@ -107,14 +108,14 @@ inline ParameterRow writtenAsTheSet(ParameterRow row)
     row.writtenTag = QString();
     return row;
 }
-inline ParameterRow afterBadText(double value, ParameterRow row)
+inline ParameterRow valueAfterReadError(double value, ParameterRow row)
 {
-    row.afterBadText = value;
+    row.valueAfterReadError = value;
     return row;
 }
-inline ParameterRow badTextClears(int parameter, ParameterRow row)
+inline ParameterRow readErrorClears(int parameter, ParameterRow row)
 {
-    row.clearedByBadText = parameter;
+    row.clearedByReadError = parameter;
     return row;
 }
 inline ParameterRow textChosenBy(int parameter, ParameterRow row)
@@ -152,11 +153,14 @@ public:
         m_isResetBeforeReading = false;
         return *this;
     }
-    /// Problems are reported in another order than that of the table.
-    ParameterTable& reportedInOrder(std::vector<int> order)
+    /// syntaxError() reports these parameters first, in this order, and the others as they are written.
+    ParameterTable& reportedFirst(std::initializer_list<int> parameters)
     {
-        m_reportOrder = std::move(order);
-        checkReportOrder();
+        auto place = m_reportOrder.begin();
+        for (const int parameter : parameters) {
+            const auto found = std::find(place, m_reportOrder.end(), parameter);
+            std::rotate(place++, found, found + 1);
+        }
         return *this;
     }
 
@@ -166,9 +170,6 @@ public:
     const std::vector<int>& reportOrder() const { return m_reportOrder; }
 
 private:
-    /// Every parameter must be named, a new one too.
-    void checkReportOrder() const { Q_ASSERT(m_reportOrder.size() == m_rows.size()); }
-
     std::vector<ParameterRow> m_rows;
     std::vector<int> m_reportOrder;
     bool m_isResetBeforeReading = true;

@@ -1,7 +1,7 @@
 #include "arvxml/propmodel.h"
 
-#include "core/elementform.h"
-#include "core/enumeration.h"
+#include "core/contentmodel.h"
+#include "core/enumerationrules.h"
 
 namespace ArvXml {
 
@@ -26,7 +26,7 @@ void XmlPropModelEnumType::processXml(QXmlStreamReader& reader, const QString& t
 {
     // Unlike the other enumerations: on a start tag only, and the text is read whole, which ends on the end tag
     // or with an error.
-    ElementReader in(*this, reader, tagName, leafWording);
+    ElementReader in(classname(), reader, tagName, leafWording);
     if (!in.requireStartTag())
         return;
     m_value = rules().texts.value(in.childText());
@@ -36,79 +36,48 @@ void XmlPropModelEnumType::processXml(QXmlStreamReader& reader, const QString& t
 
 // The command
 
-namespace {
-
-enum PropModelMarks : Marks { Selection = 1, Properties = 2, CommandReference = 4, Command = 8 };
-
-} // namespace
-
 XmlPropModelType::XmlPropModelType(bool isCommand)
     : XmlCommand(QStringLiteral("XmlPropModelType"))
     , m_isCommand(isCommand)
 {
 }
 
-/// The reference; it is written and judged only for a command, and the gate lets only a command read it.
-Content XmlPropModelType::referenceOfCommand()
-{
-    Content content = reportedApart(child<&XmlPropModelType::m_reference>());
-    content.write = [](const XmlElementBase& owner, QXmlStreamWriter& writer, const QString& tag) {
-        const auto& self = static_cast<const XmlPropModelType&>(owner);
-        if (self.isCommand())
-            self.m_reference.produceXml(writer, tag);
-    };
-    content.isValid = [](const XmlElementBase& owner) {
-        const auto& self = static_cast<const XmlPropModelType&>(owner);
-        return !self.isCommand() || self.m_reference.isValid();
-    };
-    return content;
-}
-
-const ElementForm& XmlPropModelType::form() const
+const ContentModel& XmlPropModelType::contentModel() const
 {
     using Self = XmlPropModelType;
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(listWording)
-            .children({
-                {"SelectModel", Selection, Selection | Properties | CommandReference,
-                 reportedApart(renewed<&Self::m_model>())},
-                {"PropertiesFreespace", Properties, Properties | CommandReference, renewed<&Self::m_freespace>()},
-                {"PropertiesOLOS", Properties, Properties | CommandReference, renewed<&Self::m_olos>()},
-                {"PropertiesITM", Properties, Properties | CommandReference, renewed<&Self::m_itm>()},
-                {"PropertiesP452", Properties, Properties | CommandReference, renewed<&Self::m_p452>()},
-                {"PropertiesP1546", Properties, Properties | CommandReference, renewed<&Self::m_p1546>()},
-                {"PropertiesP526", Properties, Properties | CommandReference, renewed<&Self::m_p526>()},
-                {"PropertiesP533", Properties, Properties | CommandReference, renewed<&Self::m_p533>()},
-                {"PropertiesOkumura", Properties, Properties | CommandReference, renewed<&Self::m_hata>()},
-                {"Reference", CommandReference, CommandReference, referenceOfCommand(), Command},
-            })
-            .completeWhen(Command, 0)
-            .completeWith(Command | CommandReference);
-    return form;
-}
-
-quint32 XmlPropModelType::openElement(ElementReader&)
-{
-    return m_isCommand ? Marks(Command) : Marks(0);
-}
-
-bool XmlPropModelType::hasTooManySets() const
-{
-    return heldChildren() - int(hasModel()) > 1;
+    const auto selectionAndSets = [] {
+        return ContentModel(listWording)
+            .sequence({
+                optional("SelectModel", renewed<&Self::m_model>()),
+                optional(oneOf({
+                    {"PropertiesFreespace", renewed<&Self::m_freespace>()},
+                    {"PropertiesOLOS", renewed<&Self::m_olos>()},
+                    {"PropertiesITM", renewed<&Self::m_itm>()},
+                    {"PropertiesP452", renewed<&Self::m_p452>()},
+                    {"PropertiesP1546", renewed<&Self::m_p1546>()},
+                    {"PropertiesP526", renewed<&Self::m_p526>()},
+                    {"PropertiesP533", renewed<&Self::m_p533>()},
+                    {"PropertiesOkumura", renewed<&Self::m_hata>()},
+                })),
+            });
+    };
+    static const NeverDestroyed<ContentModel> model = selectionAndSets();
+    static const NeverDestroyed<ContentModel> commandModel =
+        selectionAndSets()
+            .strictSequence({required("Reference", child<&Self::m_reference>())})
+            .reportedFirst({"SelectModel", "Reference"});
+    return m_isCommand ? commandModel : model;
 }
 
 bool XmlPropModelType::isValid() const
 {
-    return XmlCommand::isValid() && !hasTooManySets();
+    return XmlCommand::isValid() && heldChildren() - int(hasModel()) <= 1;
 }
 
 void XmlPropModelType::addErrors()
 {
-    addSyntaxError(memberError(m_model));
-    if (m_isCommand)
-        addSyntaxError(memberError(m_reference)); // reported before the sets, though written last
     addChildrenErrors();
-    if (hasTooManySets())
+    if (heldChildren() - int(hasModel()) > 1)
         addSyntaxError(QStringLiteral("Illegal number of elements."));
 }
 

@@ -1,7 +1,7 @@
 #include "arvxml/automaticresponse.h"
 
-#include "core/elementform.h"
-#include "core/enumeration.h"
+#include "core/contentmodel.h"
+#include "core/enumerationrules.h"
 #include "core/times.h"
 
 namespace ArvXml {
@@ -26,6 +26,30 @@ const EnumerationTexts& statusTexts()
     return texts;
 }
 
+void readStatus(XmlElementBase& owner, ElementReader& in)
+{
+    if (!in.requireStartTag())
+        return;
+    auto& response = static_cast<XmlAutoRespType&>(owner);
+    const int status = statusTexts().value(in.attribute(statusAttribute()));
+    response.setStatus(static_cast<XmlAutoRespType::RespStatus>(status));
+    if (status == XmlAutoRespType::StatusUndefined)
+        in.refuseAttribute(statusAttribute());
+}
+
+void writeStatus(const XmlElementBase& owner, QXmlStreamWriter& writer)
+{
+    const auto& response = static_cast<const XmlAutoRespType&>(owner);
+    writer.writeAttribute(statusAttribute(), statusTexts().text(response.status()));
+}
+
+void takeEstimatedTime(XmlAutoRespType& response, const QString& text, ElementReader& in)
+{
+    response.setEstimatedTime(toDateTime(text));
+    if (!response.hasEstimatedTime())
+        in.fail(QStringLiteral("Illegal dateTime format"));
+}
+
 } // namespace
 
 XmlAutoRespType::XmlAutoRespType()
@@ -33,44 +57,29 @@ XmlAutoRespType::XmlAutoRespType()
 {
 }
 
-const ElementForm& XmlAutoRespType::form() const
+const ContentModel& XmlAutoRespType::contentModel() const
 {
     using Self = XmlAutoRespType;
-    static const NeverDestroyed<ElementForm> form = ElementForm(compositeWording)
-                                                        .sequence({
-                                                            required(referenceTag, child<&Self::m_reference>()),
-                                                            oneOf({
-                                                                {errorTag, takenBy<&Self::setErrorMessage>()},
-                                                                {timeTag, takenBy<&Self::takeEstimatedTime>()},
-                                                                {gridTag, renewed<&Self::m_gridResult>()},
-                                                                {interlinkTag, renewed<&Self::m_interlinkResult>()},
-                                                                {versionTag, takenBy<&Self::setArvVersion>()},
-                                                            }),
-                                                        });
-    return form;
-}
-
-quint32 XmlAutoRespType::openElement(ElementReader& in)
-{
-    if (!in.requireStartTag())
-        return 0;
-    m_status = static_cast<RespStatus>(statusTexts().value(in.attribute(statusAttribute())));
-    if (m_status == StatusUndefined)
-        in.refuseAttribute(statusAttribute());
-    return 0;
-}
-
-void XmlAutoRespType::takeEstimatedTime(const QString& text, ElementReader& in)
-{
-    m_estimatedTime = toDateTime(text);
-    if (!m_estimatedTime.isValid())
-        in.fail(QStringLiteral("Illegal dateTime format"));
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(compositeWording)
+            .sequence({
+                required(referenceTag, child<&Self::m_reference>()),
+                oneOf({
+                    {errorTag, takenBy<Self, &Self::setErrorMessage>()},
+                    {timeTag, as(ContentKind::Time, takenBy<Self, takeEstimatedTime>())},
+                    {gridTag, renewed<&Self::m_gridResult>()},
+                    {interlinkTag, renewed<&Self::m_interlinkResult>()},
+                    {versionTag, takenBy<Self, &Self::setArvVersion>()},
+                }),
+            })
+            .attributes(readStatus, writeStatus);
+    return model;
 }
 
 void XmlAutoRespType::produceXml(QXmlStreamWriter& writer, const QString& tagName) const
 {
     writer.writeStartElement(tagName);
-    writer.writeAttribute(statusAttribute(), statusTexts().text(m_status));
+    writeAttributes(writer);
     m_reference.produceXml(writer, QString::fromLatin1(referenceTag));
     if (hasErrorMessage()) {
         writer.writeTextElement(QString::fromLatin1(errorTag), m_errorMessage); // and nothing more

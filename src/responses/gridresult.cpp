@@ -1,8 +1,9 @@
 #include "arvxml/gridresult.h"
 
-#include "core/elementform.h"
-#include "core/enumeration.h"
+#include "core/contentmodel.h"
+#include "core/enumerationrules.h"
 #include "core/numbers.h"
+#include "core/versions.h"
 
 #include <array>
 
@@ -27,9 +28,7 @@ constexpr char bestSensorTag[] = "BestSensorCov";
 enum GridResultMarks : Marks {
     InWrapper = 1,
     WrapperDone = 2,
-    ParameterDone = 4,
-    FilenameDone = 8,
-    FirstType = 16, ///< set while reading a result of the first type, the next bit for the second
+    FirstType = 4, ///< set while reading a result of the first type, the next bit for the second
 };
 
 constexpr Marks typeMark(XmlGridResultType::ResultType type)
@@ -37,13 +36,14 @@ constexpr Marks typeMark(XmlGridResultType::ResultType type)
     return type == XmlGridResultType::ResultUndefined ? 0 : Marks(FirstType) << (type - 1);
 }
 
-/// Parameters of one kind, written in their wrapper together with the file name.
+/// Parameters of one kind, written in their wrapper together with the file name. The wrapper's tag is only entered:
+/// "Parameter" is what reads the set.
 template <auto Member>
-Content wrapped()
+Row wrapper(const char* tag, XmlGridResultType::ResultType type)
 {
-    Content content = heldIn<Member>();
-    // The wrapper's tag is only entered; "Parameter" is what reads the set.
-    content.write = [](const XmlElementBase& owner, QXmlStreamWriter& writer, const QString& wrapper) {
+    Binding binding = heldIn<Member>();
+    binding.holds.kind = ContentKind::Wrapper;
+    binding.write = [](const XmlElementBase& owner, QXmlStreamWriter& writer, const QString& wrapper) {
         const auto& set = memberOf<Member>(owner);
         if (!set.isPresent())
             return;
@@ -53,25 +53,65 @@ Content wrapped()
                                 static_cast<const XmlGridResultType&>(owner).screenshotFilename());
         writer.writeEndElement();
     };
-    return content;
+    return Row(tag, binding)
+        .alternative(1)
+        .required()
+        .marks(InWrapper)
+        .refusedAfter(InWrapper | WrapperDone)
+        .onlyAfter(typeMark(type));
 }
 
-/// Reads the parameters into a new set that takes the wrapper's tag for its own: it will refuse the end
-/// tag of "Parameter".
-template <auto Member, const char* wrapper>
-Content readAs()
+/// The parameters of a result of \a type, whatever the wrapper. Odd: the set takes the wrapper's tag for its own, and
+/// so refuses the end tag of "Parameter": reading ends there.
+template <auto Member, const char* tag>
+Row parameter(XmlGridResultType::ResultType type)
 {
-    Content content;
-    content.read = [](XmlElementBase& owner, ElementReader& in, const QString&) {
-        memberOf<Member>(owner).renew().processXml(in.stream(), QString::fromLatin1(wrapper));
+    Binding binding;
+    binding.holds = heldIn<Member>().holds;
+    binding.read = [](XmlElementBase& owner, ElementReader& in, const QString&) {
+        memberOf<Member>(owner).renew().processXml(in.stream(), QString::fromLatin1(tag));
     };
-    return content;
+    return Row("Parameter", binding).within(tag).required().onlyAfter(InWrapper | typeMark(type));
 }
 
-/// "Parameter", the first of its rows that fits: the type decides, not the wrapper's name.
-Row parameter(XmlGridResultType::ResultType type, const Content& parameters)
+WrapperEnd wrapperEnd(const char* tag)
 {
-    return {"Parameter", 0, ParameterDone | FilenameDone, parameters, InWrapper | typeMark(type)};
+    return WrapperEnd(tag).onlyAfter(InWrapper).clears(InWrapper).marks(WrapperDone);
+}
+
+void readType(XmlElementBase& owner, ElementReader& in)
+{
+    if (!in.requireStartTag())
+        return;
+    const int type = resultTypeTexts().value(in.attribute(typeAttribute()));
+    static_cast<XmlGridResultType&>(owner).setType(static_cast<XmlGridResultType::ResultType>(type));
+    if (type == XmlGridResultType::ResultUndefined)
+        in.refuseAttribute(typeAttribute());
+}
+
+void writeType(const XmlElementBase& owner, QXmlStreamWriter& writer)
+{
+    const auto& result = static_cast<const XmlGridResultType&>(owner);
+    writer.writeAttribute(typeAttribute(), resultTypeTexts().text(result.type()));
+}
+
+bool isTypeDefined(const XmlGridResultType& result)
+{
+    return result.type() >= XmlGridResultType::ResultFindSites
+        && result.type() <= XmlGridResultType::ResultBestSensorCov;
+}
+
+/// Whether there are parameters of the result's type, and no others.
+bool hasParametersOfType(const XmlGridResultType& result)
+{
+    const std::array<bool, 5> held = {result.hasFindSites(), result.hasCep(), result.hasDetectProb(), result.hasDfCov(),
+                                      result.hasBestSensor()};
+    for (int i = 0; i < static_cast<int>(held.size()); ++i) {
+        const bool isOfType = i + 1 == result.type();
+        if (held[static_cast<std::size_t>(i)] != isOfType)
+            return false;
+    }
+    return true;
 }
 
 } // namespace
@@ -83,78 +123,42 @@ XmlGridResultType::XmlGridResultType()
 {
 }
 
-const ElementForm& XmlGridResultType::form() const
+const ContentModel& XmlGridResultType::contentModel() const
 {
     using Self = XmlGridResultType;
-    constexpr Marks Entered = InWrapper | WrapperDone;
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(compositeWording)
-            .children({
-                {findSitesTag, InWrapper, Entered, wrapped<&Self::m_findSites>(), typeMark(ResultFindSites)},
-                {cepTag, InWrapper, Entered, wrapped<&Self::m_cep>(), typeMark(ResultCep)},
-                {detectProbTag, InWrapper, Entered, wrapped<&Self::m_detectProb>(), typeMark(ResultDetectProb)},
-                {dfCovTag, InWrapper, Entered, wrapped<&Self::m_dfCov>(), typeMark(ResultDfCoverage)},
-                {bestSensorTag, InWrapper, Entered, wrapped<&Self::m_bestSensor>(), typeMark(ResultBestSensorCov)},
-                parameter(ResultFindSites, readAs<&Self::m_findSites, findSitesTag>()),
-                parameter(ResultCep, readAs<&Self::m_cep, cepTag>()),
-                parameter(ResultDetectProb, readAs<&Self::m_detectProb, detectProbTag>()),
-                parameter(ResultDfCoverage, readAs<&Self::m_dfCov, dfCovTag>()),
-                parameter(ResultBestSensorCov, readAs<&Self::m_bestSensor, bestSensorTag>()),
-                {"ScreenshotFilename", FilenameDone, FilenameDone, takenBy<&Self::setScreenshotFilename>(),
-                 InWrapper | ParameterDone},
+    // Odd: the type in the start tag decides which wrapper and which parameters are taken. Nothing completes the
+    // element, since reading ends inside the wrapper.
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(compositeWording)
+            .attributes(readType, writeType)
+            .startsWith([](const XmlElementBase& owner) { return typeMark(static_cast<const Self&>(owner).m_type); })
+            .rows({
+                wrapper<&Self::m_findSites>(findSitesTag, ResultFindSites),
+                wrapper<&Self::m_cep>(cepTag, ResultCep),
+                wrapper<&Self::m_detectProb>(detectProbTag, ResultDetectProb),
+                wrapper<&Self::m_dfCov>(dfCovTag, ResultDfCoverage),
+                wrapper<&Self::m_bestSensor>(bestSensorTag, ResultBestSensorCov),
+                parameter<&Self::m_findSites, findSitesTag>(ResultFindSites),
+                parameter<&Self::m_cep, cepTag>(ResultCep),
+                parameter<&Self::m_detectProb, detectProbTag>(ResultDetectProb),
+                parameter<&Self::m_dfCov, dfCovTag>(ResultDfCoverage),
+                parameter<&Self::m_bestSensor, bestSensorTag>(ResultBestSensorCov),
             })
-            .innerEnds({
-                {"Parameter", InWrapper, 0, ParameterDone},
-                {findSitesTag, InWrapper, InWrapper, WrapperDone},
-                {cepTag, InWrapper, InWrapper, WrapperDone},
-                {detectProbTag, InWrapper, InWrapper, WrapperDone},
-                {dfCovTag, InWrapper, InWrapper, WrapperDone},
-                {bestSensorTag, InWrapper, InWrapper, WrapperDone},
-            })
-            .completeWhen(InWrapper | WrapperDone | ParameterDone | FilenameDone,
-                          WrapperDone | ParameterDone | FilenameDone);
-    return form;
-}
-
-quint32 XmlGridResultType::openElement(ElementReader& in)
-{
-    if (!in.requireStartTag())
-        return 0;
-    m_type = static_cast<ResultType>(resultTypeTexts().value(in.attribute(typeAttribute())));
-    if (m_type == ResultUndefined)
-        in.refuseAttribute(typeAttribute());
-    return typeMark(m_type);
-}
-
-void XmlGridResultType::writeAttributes(QXmlStreamWriter& writer) const
-{
-    writer.writeAttribute(typeAttribute(), resultTypeTexts().text(m_type));
-}
-
-bool XmlGridResultType::isTypeDefined() const
-{
-    return m_type >= ResultFindSites && m_type <= ResultBestSensorCov;
-}
-
-bool XmlGridResultType::hasParametersOfType() const
-{
-    const std::array<bool, 5> held = {hasFindSites(), hasCep(), hasDetectProb(), hasDfCov(), hasBestSensor()};
-    for (int i = 0; i < static_cast<int>(held.size()); ++i) {
-        const bool isOfType = i + 1 == m_type;
-        if (held[static_cast<std::size_t>(i)] != isOfType)
-            return false;
-    }
-    return true;
+            .wrapperEnds({wrapperEnd(findSitesTag), wrapperEnd(cepTag), wrapperEnd(detectProbTag), wrapperEnd(dfCovTag),
+                          wrapperEnd(bestSensorTag)})
+            .neverComplete();
+    return model;
 }
 
 bool XmlGridResultType::isValid() const
 {
-    return isTypeDefined() && hasParametersOfType() && XmlComposite::isValid() && !m_screenshotFilename.isEmpty();
+    return isTypeDefined(*this) && hasParametersOfType(*this) && XmlComposite::isValid()
+        && !m_screenshotFilename.isEmpty();
 }
 
 void XmlGridResultType::addErrors()
 {
-    if (isTypeDefined() && !hasParametersOfType()) {
+    if (isTypeDefined(*this) && !hasParametersOfType(*this)) {
         const QString& type = resultTypeTexts().text(m_type);
         addSyntaxError(QStringLiteral("Type is '%1' but no %1 parameters or other parameters found").arg(type));
     }
@@ -180,6 +184,15 @@ constexpr NumberFormat valueFormat = {'g', 6};
 
 enum GridValuesMarks : Marks { InMin = 1, MinDone = 2, InMax = 4, MaxDone = 8 };
 
+void writeMin(const XmlGridValuesType& values, QXmlStreamWriter& writer, const QString& tag)
+{
+    writer.writeTextElement(tag, numberText(values.min(), valueFormat));
+}
+void writeMax(const XmlGridValuesType& values, QXmlStreamWriter& writer, const QString& tag)
+{
+    writer.writeTextElement(tag, numberText(values.max(), valueFormat));
+}
+
 /// Nothing but a number in "Min" or "Max" is accepted, not even white space between them.
 Marks takeCharacters(XmlElementBase& owner, ElementReader& in, Marks read)
 {
@@ -195,78 +208,77 @@ Marks takeCharacters(XmlElementBase& owner, ElementReader& in, Marks read)
     return 0;
 }
 
+bool lacksAttributes(const XmlGridValuesType& values)
+{
+    return values.version().isEmpty() || values.unit().isEmpty();
+}
+
+/// Odd: what the tag does not say stays as it was, and what it says counts even when it is empty.
+void readVersionAndUnit(XmlElementBase& owner, ElementReader& in)
+{
+    if (!in.requireStartTag())
+        return;
+    auto& values = static_cast<XmlGridValuesType&>(owner);
+    if (in.hasAttribute(versionAttribute()))
+        values.setVersion(detachedCopy(in.attribute(versionAttribute())));
+    if (in.hasAttribute(unitAttribute()))
+        values.setUnit(detachedCopy(in.attribute(unitAttribute())));
+    if (lacksAttributes(values))
+        in.fail(QStringLiteral("Missing mandatory attributes"));
+    refuseOtherVersions(in, values.version());
+}
+
+void writeVersionAndUnit(const XmlElementBase& owner, QXmlStreamWriter& writer)
+{
+    const auto& values = static_cast<const XmlGridValuesType&>(owner);
+    writeVersion(writer, values.version());
+    writer.writeAttribute(unitAttribute(), values.unit());
+}
+
 } // namespace
 
 XmlGridValuesType::XmlGridValuesType()
-    : XmlVersionedComposite(QStringLiteral("XmlGridValuesType"))
+    : XmlComposite(QStringLiteral("XmlGridValuesType"))
 {
 }
 
-const ElementForm& XmlGridValuesType::form() const
+const ContentModel& XmlGridValuesType::contentModel() const
 {
     using Self = XmlGridValuesType;
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(listWording)
-            .children({
-                {"Min", InMin, InMin | MinDone, writtenBy<&Self::writeMin>()},
-                {"Max", InMax, InMax | MaxDone, writtenBy<&Self::writeMax>(), MinDone},
+    // Odd: the numbers are taken from the characters between the tags, and their range begins with "Min".
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(listWording)
+            .attributes(readVersionAndUnit, writeVersionAndUnit)
+            .rows({
+                Row("Min", as(ContentKind::Real, writtenBy<Self, writeMin>()))
+                    .required()
+                    .marks(InMin)
+                    .refusedAfter(InMin | MinDone),
+                Row("Max", as(ContentKind::Real, writtenBy<Self, writeMax>()))
+                    .required()
+                    .marks(InMax)
+                    .refusedAfter(InMax | MaxDone)
+                    .onlyAfter(MinDone),
             })
-            .innerEnds({
-                {"Min", InMin, InMin, MinDone},
-                {"Max", InMax, InMax, MaxDone},
+            .onCharacters(takeCharacters)
+            .wrapperEnds({
+                WrapperEnd("Min").onlyAfter(InMin).clears(InMin).marks(MinDone),
+                WrapperEnd("Max").onlyAfter(InMax).clears(InMax).marks(MaxDone),
             })
-            .completeWith(MaxDone)
-            .onCharacters(takeCharacters);
-    return form;
-}
-
-quint32 XmlGridValuesType::openElement(ElementReader& in)
-{
-    if (!in.requireStartTag())
-        return 0;
-    // Unlike elsewhere, what the tag does not say stays as it was, and what it says counts even when
-    // it is empty.
-    if (in.hasAttribute(versionAttribute()))
-        setVersion(keptText(in.attribute(versionAttribute())));
-    if (in.hasAttribute(unitAttribute()))
-        setUnit(keptText(in.attribute(unitAttribute())));
-    if (lacksAttributes())
-        in.fail(QStringLiteral("Missing mandatory attributes"));
-    refuseOtherVersions(in);
-    return 0;
-}
-
-void XmlGridValuesType::writeAttributes(QXmlStreamWriter& writer) const
-{
-    writeVersion(writer);
-    writer.writeAttribute(unitAttribute(), m_unit);
-}
-
-void XmlGridValuesType::writeMin(QXmlStreamWriter& writer, const QString& tag) const
-{
-    writer.writeTextElement(tag, numberText(m_min, valueFormat));
-}
-
-void XmlGridValuesType::writeMax(QXmlStreamWriter& writer, const QString& tag) const
-{
-    writer.writeTextElement(tag, numberText(m_max, valueFormat));
-}
-
-bool XmlGridValuesType::lacksAttributes() const
-{
-    return version().isEmpty() || m_unit.isEmpty();
+            .completeWith(MaxDone);
+    return model;
 }
 
 bool XmlGridValuesType::isValid() const
 {
-    return supportsVersion() && !m_unit.isEmpty();
+    return isSupportedVersion(version()) && !m_unit.isEmpty();
 }
 
 void XmlGridValuesType::addErrors()
 {
-    if (lacksAttributes())
+    if (lacksAttributes(*this))
         addSyntaxError(QStringLiteral("Missing mandatory attributes"));
-    addSyntaxError(versionError());
+    addSyntaxError(versionError(version()));
 }
 
 void XmlGridValuesType::reset()

@@ -1,6 +1,6 @@
 #include "arvxml/interactiveresponse.h"
 
-#include "core/elementform.h"
+#include "core/contentmodel.h"
 
 namespace ArvXml {
 
@@ -11,20 +11,20 @@ XmlResultObjectType::XmlResultObjectType()
 {
 }
 
-const ElementForm& XmlResultObjectType::form() const
+const ContentModel& XmlResultObjectType::contentModel() const
 {
     using Self = XmlResultObjectType;
     // It words start tags as lists do and end tags as composites do.
     static constexpr Wording wording = {listWording.start, compositeWording.end};
-    static const NeverDestroyed<ElementForm> form = ElementForm(wording)
-                                                        .sequence({oneOf({
-                                                            {"Station", renewed<&Self::m_station>()},
-                                                            {"Emitter", renewed<&Self::m_emitter>()},
-                                                            {"Receiver", renewed<&Self::m_receiver>()},
-                                                            {"DF", renewed<&Self::m_df>()},
-                                                        })})
-                                                        .neverComplete(); // its own end tag is refused like any other
-    return form;
+    static const NeverDestroyed<ContentModel> model = ContentModel(wording)
+                                                          .sequence({oneOf({
+                                                              {"Station", renewed<&Self::m_station>()},
+                                                              {"Emitter", renewed<&Self::m_emitter>()},
+                                                              {"Receiver", renewed<&Self::m_receiver>()},
+                                                              {"DF", renewed<&Self::m_df>()},
+                                                          })})
+                                                          .neverComplete(); // its own end tag is refused like any other
+    return model;
 }
 
 // An interactive response
@@ -34,16 +34,16 @@ XmlInteractRespType::XmlInteractRespType()
 {
 }
 
-const ElementForm& XmlInteractRespType::form() const
+const ContentModel& XmlInteractRespType::contentModel() const
 {
     using Self = XmlInteractRespType;
-    static const NeverDestroyed<ElementForm> form = ElementForm(compositeWording)
-                                                        .sequence({oneOf({
-                                                            {"GridResult", renewed<&Self::m_gridResult>()},
-                                                            {"InterlinkResult", renewed<&Self::m_interlinkResult>()},
-                                                            {"Station", renewed<&Self::m_result>()},
-                                                        })});
-    return form;
+    static const NeverDestroyed<ContentModel> model = ContentModel(compositeWording)
+                                                          .sequence({oneOf({
+                                                              {"GridResult", renewed<&Self::m_gridResult>()},
+                                                              {"InterlinkResult", renewed<&Self::m_interlinkResult>()},
+                                                              {"Station", renewed<&Self::m_result>()},
+                                                          })});
+    return model;
 }
 
 bool XmlInteractRespType::isValid() const

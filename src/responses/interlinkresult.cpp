@@ -1,40 +1,54 @@
 #include "arvxml/interlinkresult.h"
 
-#include "core/elementform.h"
+#include "core/contentmodel.h"
 
 namespace ArvXml {
+
+static void writeResult(const XmlInterlinkResultType& result, QXmlStreamWriter& writer, const QString& tag)
+{
+    writer.writeStartElement(tag);
+    writer.writeTextElement(QStringLiteral("Text"), result.resultText());
+    if (result.hasScreenshotFilename())
+        writer.writeTextElement(QStringLiteral("ScreenshotFilename"), result.screenshotFilename());
+    writer.writeEndElement();
+}
 
 XmlInterlinkResultType::XmlInterlinkResultType()
     : XmlComposite(QStringLiteral("XmlInterlinkResultType"))
 {
 }
 
-const ElementForm& XmlInterlinkResultType::form() const
+const ContentModel& XmlInterlinkResultType::contentModel() const
 {
     using Self = XmlInterlinkResultType;
     enum : Marks { Parameters = 1, InResult = 2, Text = 4, Filename = 8 };
-    // "Text" and "ScreenshotFilename" stand inside "Result", whose tags this element reads and writes
-    // itself. "Result" may be left and entered again, and may come first, until one of them was read.
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(compositeWording)
-            .children({
-                {"Parameters", Parameters, Parameters | InResult | Text | Filename, child<&Self::m_parameters>()},
-                {"Result", InResult, InResult | Text | Filename, writtenBy<&Self::writeResult>()},
-                {"Text", Text, Text | Filename, takenBy<&Self::setResultText>(), InResult},
-                {"ScreenshotFilename", Filename, Filename, takenBy<&Self::setScreenshotFilename>(), InResult},
+    // Odd: "Result" may be left and entered again, and may come first, until a text in it has been read.
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(compositeWording)
+            .rows({
+                Row("Parameters", child<&Self::m_parameters>())
+                    .required()
+                    .marks(Parameters)
+                    .refusedAfter(Parameters | InResult | Text | Filename),
+                Row("Result", as(ContentKind::Wrapper, writtenBy<Self, writeResult>()))
+                    .required()
+                    .marks(InResult)
+                    .refusedAfter(InResult | Text | Filename),
+                Row("Text", takenBy<Self, &Self::setResultText>())
+                    .within("Result")
+                    .required()
+                    .marks(Text)
+                    .refusedAfter(Text | Filename)
+                    .onlyAfter(InResult),
+                Row("ScreenshotFilename", takenBy<Self, &Self::setScreenshotFilename>())
+                    .within("Result")
+                    .marks(Filename)
+                    .refusedAfter(Filename)
+                    .onlyAfter(InResult),
             })
-            .innerEnds({{"Result", InResult, InResult, 0}})
+            .wrapperEnds({WrapperEnd("Result").onlyAfter(InResult).clears(InResult)})
             .completeWhen(Parameters | Text | InResult, Parameters | Text);
-    return form;
-}
-
-void XmlInterlinkResultType::writeResult(QXmlStreamWriter& writer, const QString& tag) const
-{
-    writer.writeStartElement(tag);
-    writer.writeTextElement(QStringLiteral("Text"), m_resultText);
-    if (hasScreenshotFilename())
-        writer.writeTextElement(QStringLiteral("ScreenshotFilename"), m_screenshotFilename);
-    writer.writeEndElement();
+    return model;
 }
 
 bool XmlInterlinkResultType::isValid() const

@@ -1,7 +1,7 @@
 #include "arvxml/responseroot.h"
 
-#include "core/elementform.h"
-#include "core/enumeration.h"
+#include "core/contentmodel.h"
+#include "core/enumerationrules.h"
 #include "core/times.h"
 
 namespace ArvXml {
@@ -24,6 +24,40 @@ const EnumerationTexts& responseTypeTexts()
     return texts;
 }
 
+/// Whether \a text says whether a response is the last one; if so, the response takes it.
+bool takeFinal(XmlRespRoot& response, const QString& text)
+{
+    const auto is = [&text](QLatin1String word) { return text.compare(word, Qt::CaseInsensitive) == 0; };
+    const bool isTrue = is(QLatin1String("TRUE")) || text == QLatin1String("1");
+    const bool isFalse = is(QLatin1String("FALSE")) || text == QLatin1String("0");
+    if (isTrue || isFalse)
+        response.setFinal(isTrue);
+    return isTrue || isFalse;
+}
+
+void readAttributes(XmlElementBase& owner, ElementReader& in)
+{
+    if (!in.requireStartTag())
+        return;
+    auto& response = static_cast<XmlRespRoot&>(owner);
+    response.setType(static_cast<XmlRespRoot::RespType>(responseTypeTexts().value(in.attribute(typeAttribute()))));
+    if (response.type() == XmlRespRoot::RespUndefined)
+        in.refuseAttribute(typeAttribute());
+    if (!takeFinal(response, detachedCopy(in.attribute(finalAttribute()))))
+        in.refuseAttribute(finalAttribute());
+    response.setTimestamp(toDateTime(detachedCopy(in.attribute(timestampAttribute()))));
+    if (!response.timestamp().isValid())
+        in.refuseAttribute(timestampAttribute());
+}
+
+void writeAttributes(const XmlElementBase& owner, QXmlStreamWriter& writer)
+{
+    const auto& response = static_cast<const XmlRespRoot&>(owner);
+    writer.writeAttribute(typeAttribute(), responseTypeTexts().text(response.type()));
+    writer.writeAttribute(finalAttribute(), response.isFinal() ? QStringLiteral("true") : QStringLiteral("false"));
+    writer.writeAttribute(timestampAttribute(), isoText(response.timestamp()));
+}
+
 } // namespace
 
 XmlRespRoot::XmlRespRoot()
@@ -32,50 +66,17 @@ XmlRespRoot::XmlRespRoot()
 {
 }
 
-const ElementForm& XmlRespRoot::form() const
+const ContentModel& XmlRespRoot::contentModel() const
 {
     using Self = XmlRespRoot;
-    static const NeverDestroyed<ElementForm> form = ElementForm(compositeWording)
-                                                        .anywhere("ORDER_DEF", renewed<&Self::m_orderDef>())
-                                                        .sequence({optional(oneOf({
-                                                            {"Automatic", renewed<&Self::m_automatic>()},
-                                                            {"Interactive", renewed<&Self::m_interactive>()},
-                                                        }))});
-    return form;
-}
-
-quint32 XmlRespRoot::openElement(ElementReader& in)
-{
-    if (!in.requireStartTag())
-        return 0;
-    m_type = static_cast<RespType>(responseTypeTexts().value(in.attribute(typeAttribute())));
-    if (m_type == RespUndefined)
-        in.refuseAttribute(typeAttribute());
-    if (!takeFinal(keptText(in.attribute(finalAttribute()))))
-        in.refuseAttribute(finalAttribute());
-    setTimestamp(toDateTime(keptText(in.attribute(timestampAttribute()))));
-    if (!m_timestamp.isValid())
-        in.refuseAttribute(timestampAttribute());
-    return 0;
-}
-
-bool XmlRespRoot::takeFinal(const QString& text)
-{
-    const auto is = [&text](QLatin1String word) { return text.compare(word, Qt::CaseInsensitive) == 0; };
-    if (is(QLatin1String("TRUE")) || text == QLatin1String("1"))
-        m_final = true;
-    else if (is(QLatin1String("FALSE")) || text == QLatin1String("0"))
-        m_final = false;
-    else
-        return false;
-    return true;
-}
-
-void XmlRespRoot::writeAttributes(QXmlStreamWriter& writer) const
-{
-    writer.writeAttribute(typeAttribute(), responseTypeTexts().text(m_type));
-    writer.writeAttribute(finalAttribute(), m_final ? QStringLiteral("true") : QStringLiteral("false"));
-    writer.writeAttribute(timestampAttribute(), isoText(m_timestamp));
+    static const NeverDestroyed<ContentModel> model = ContentModel(compositeWording)
+                                                          .attributes(readAttributes, ArvXml::writeAttributes)
+                                                          .anywhere("ORDER_DEF", renewed<&Self::m_orderDef>())
+                                                          .sequence({optional(oneOf({
+                                                              {"Automatic", renewed<&Self::m_automatic>()},
+                                                              {"Interactive", renewed<&Self::m_interactive>()},
+                                                          }))});
+    return model;
 }
 
 bool XmlRespRoot::isValid() const

@@ -1,29 +1,33 @@
 #include "arvxml/resultinfo.h"
 
-#include "core/elementform.h"
+#include "core/contentmodel.h"
 
 namespace ArvXml {
 
 namespace {
 
-/// The polygon's child judges the choice of areas and reports it: a polygon goes before a rectangle.
+/// A polygon or a rectangle: reading one removes the other. The polygon's binding judges and reports the choice, and a
+/// polygon goes before a rectangle.
 template <auto Polygon, auto Rectangle>
-Content areaChoice()
+Particle polygonOrRectangle()
 {
-    Content content = readInsteadOf<Polygon, Rectangle>();
-    content.isValid = [](const XmlElementBase& owner) {
+    Binding either = readInsteadOf<Polygon, Rectangle>();
+    either.isValid = [](const XmlElementBase& owner) {
         const auto& polygon = memberOf<Polygon>(owner);
         const auto& rectangle = memberOf<Rectangle>(owner);
         return polygon.isPresent() ? isMemberValid(polygon) : rectangle.isPresent() && isMemberValid(rectangle);
     };
-    content.syntaxError = [](XmlElementBase& owner) {
+    either.syntaxError = [](XmlElementBase& owner) {
         if (memberOf<Polygon>(owner).isPresent())
             return memberError(memberOf<Polygon>(owner));
         if (memberOf<Rectangle>(owner).isPresent())
             return memberError(memberOf<Rectangle>(owner));
         return QStringLiteral("Neither AreaPolygon nor AreaRect");
     };
-    return content;
+    return oneOf({
+        {"AreaPolygon", either},
+        {"AreaRect", unjudged(unreported(readInsteadOf<Rectangle, Polygon>()))},
+    });
 }
 
 } // namespace
@@ -35,26 +39,19 @@ XmlResInfo::XmlResInfo(const QString& className)
 {
 }
 
-ElementForm XmlResInfo::commonForm()
+const ContentModel& XmlResInfo::contentModel() const
 {
     using Self = XmlResInfo;
-    return ElementForm(listWording)
-        .strictSequence({
-            required("Name", child<&Self::m_objName>()),
-            oneOf({
-                {"AreaPolygon", areaChoice<&Self::m_areaPoly, &Self::m_areaRect>()},
-                {"AreaRect", unjudged(reportedApart(readInsteadOf<&Self::m_areaRect, &Self::m_areaPoly>()))},
-            }),
-            required("ResultGrid", child<&Self::m_resultGrid>()),
-            required("Values", child<&Self::m_gridValues>()),
-        })
-        .refusesOtherVersions();
-}
-
-const ElementForm& XmlResInfo::form() const
-{
-    static const NeverDestroyed<ElementForm> form = commonForm();
-    return form;
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(listWording)
+            .strictSequence({
+                required("Name", child<&Self::m_objName>()),
+                polygonOrRectangle<&Self::m_areaPoly, &Self::m_areaRect>(),
+                required("ResultGrid", child<&Self::m_resultGrid>()),
+                required("Values", child<&Self::m_gridValues>()),
+            })
+            .refusesOtherVersions();
+    return model;
 }
 
 // The records
@@ -84,12 +81,13 @@ XmlResInfo_BestSensor_Type::XmlResInfo_BestSensor_Type()
 {
 }
 
-const ElementForm& XmlResInfo_BestSensor_Type::form() const
+const ContentModel& XmlResInfo_BestSensor_Type::contentModel() const
 {
     using Self = XmlResInfo_BestSensor_Type;
-    static const NeverDestroyed<ElementForm> form =
-        commonForm().strictSequence({optional("Comment", reportedApart(renewed<&Self::m_comment>()))});
-    return form;
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(XmlResInfo::contentModel())
+            .strictSequence({optional("Comment", unreported(renewed<&Self::m_comment>()))});
+    return model;
 }
 
 } // namespace ArvXml

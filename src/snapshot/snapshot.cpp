@@ -1,6 +1,7 @@
 #include "arvxml/snapshot.h"
 
-#include "core/elementform.h"
+#include "core/contentmodel.h"
+#include "core/versions.h"
 
 #include <QtCore/QXmlStreamWriter>
 
@@ -11,36 +12,14 @@ namespace {
 constexpr char pathTag[] = "ScreenshotPath";
 constexpr char objectsTag[] = "DisplayedObjects";
 
-/// The path's and the objects' state, then a mark for each kind of object, in their order.
-enum SnapshotMarks : Marks {
-    InPath = 1,
-    PathRead = 2,
-    InObjects = 4,
-    ObjectsDone = 8,
-    Deployment = 16,
-    Aoi = 32,
-    Emitter = 64,
-    Receiver = 128,
-    Df = 256,
-    FindSites = 512,
-    Cep = 1024,
-    DetectProb = 2048,
-    DfCov = 4096,
-};
+enum SnapshotMarks : Marks { InPath = 1, PathRead = 2, InObjects = 4, ObjectsDone = 8 };
 
-/// One kind of object: among the displayed ones, before every kind that comes later.
-Row kind(const char* tag, SnapshotMarks mark, const Content& objects)
-{
-    const Marks laterKinds = ~(2 * Marks(mark) - 1);
-    return {tag, mark, laterKinds, objects, InObjects};
-}
-
-/// The path is read once it holds text, be it white space.
+/// The path counts as read once it holds text, even white space.
 Marks takePath(XmlElementBase& owner, ElementReader& in, Marks read)
 {
     if ((read & InPath) == 0)
         return 0;
-    static_cast<XmlArvBtType&>(owner).setScreenshotPath(keptText(in.stream().text()));
+    static_cast<XmlArvBtType&>(owner).setScreenshotPath(detachedCopy(in.stream().text()));
     return PathRead;
 }
 
@@ -51,32 +30,41 @@ XmlArvBtType::XmlArvBtType()
 {
 }
 
-const ElementForm& XmlArvBtType::form() const
+const ContentModel& XmlArvBtType::contentModel() const
 {
     using Self = XmlArvBtType;
-    static const NeverDestroyed<ElementForm> form =
-        ElementForm(leafWording)
-            .children({
-                {pathTag, InPath, PathRead | InPath, entered()},
-                {objectsTag, InObjects, InPath | ObjectsDone, entered(), PathRead},
-                kind("DeploymentArea", Deployment, items<&Self::m_deployments>()),
-                kind("AreaOfInterest", Aoi, items<&Self::m_aois>()),
-                kind("KnownEmitter", Emitter, items<&Self::m_knownEmitters>()),
-                kind("Receiver", Receiver, items<&Self::m_receivers>()),
-                kind("DirectionFinder", Df, items<&Self::m_dfs>()),
-                kind("Result_FindSites", FindSites, items<&Self::m_resFindSite>()),
-                kind("Result_CEP", Cep, items<&Self::m_resCep>()),
-                kind("Result_DetectProb", DetectProb, items<&Self::m_resDetectProb>()),
-                kind("Result_DfCoverage", DfCov, items<&Self::m_resDfCov>()),
+    // Odd: the path is taken from the characters between its tags, and the objects are let in only once it has some.
+    // The tag around the objects may be opened again while it is open.
+    static const NeverDestroyed<ContentModel> model =
+        ContentModel(leafWording)
+            .rows({
+                Row(pathTag, as(ContentKind::Text, entered())).required().marks(InPath).refusedAfter(InPath | PathRead),
+                Row(objectsTag, entered())
+                    .required()
+                    .marks(InObjects)
+                    .refusedAfter(InPath | ObjectsDone)
+                    .onlyAfter(PathRead),
             })
+            .within(objectsTag, InObjects,
+                    {
+                        repeated("DeploymentArea", items<&Self::m_deployments>()),
+                        repeated("AreaOfInterest", items<&Self::m_aois>()),
+                        repeated("KnownEmitter", items<&Self::m_knownEmitters>()),
+                        repeated("Receiver", items<&Self::m_receivers>()),
+                        repeated("DirectionFinder", items<&Self::m_dfs>()),
+                        repeated("Result_FindSites", items<&Self::m_resFindSite>()),
+                        repeated("Result_CEP", items<&Self::m_resCep>()),
+                        repeated("Result_DetectProb", items<&Self::m_resDetectProb>()),
+                        repeated("Result_DfCoverage", items<&Self::m_resDfCov>()),
+                    })
             .onCharacters(takePath)
-            .innerEnds({
-                {pathTag, InPath, InPath, 0},
-                {objectsTag, InObjects, InObjects, ObjectsDone},
+            .wrapperEnds({
+                WrapperEnd(pathTag).onlyAfter(InPath).clears(InPath),
+                WrapperEnd(objectsTag).onlyAfter(InObjects).clears(InObjects).marks(ObjectsDone),
             })
             .completeWith(PathRead | ObjectsDone)
             .refusesOtherVersions();
-    return form;
+    return model;
 }
 
 void XmlArvBtType::produceXml(QXmlStreamWriter& writer, const QString& tagName) const
@@ -97,7 +85,7 @@ bool XmlArvBtType::isValid() const
 
 void XmlArvBtType::addErrors()
 {
-    addSyntaxError(versionError());
+    addSyntaxError(versionError(version()));
     if (m_screenshotPath.isEmpty())
         addSyntaxError(QStringLiteral("Screen shot path is empty"));
     addChildrenErrors();
