@@ -2,9 +2,9 @@
 # are to be made from a build for the prefix /usr, since the folder of the libraries depends on it.
 
 if(ARVXML_QT STREQUAL "5")
-    set(arvxml_runtime_package libarvxml${PROJECT_VERSION_MAJOR})
+    set(arvxml_runtime_package libarvxml${arvxml_abi})
 else()
-    set(arvxml_runtime_package lib${arvxml_name}-${PROJECT_VERSION_MAJOR})
+    set(arvxml_runtime_package lib${arvxml_name}-${arvxml_abi})
 endif()
 set(arvxml_development_package lib${arvxml_name}-dev)
 

@@ -29,7 +29,7 @@ expect() {
 expect_libraries() {
     local soname needed
     soname=$(objdump -p "$1/lib$name.so" | awk '$1 == "SONAME" { print $2 }')
-    expect "the library has a soname" "lib$name.so.1" "$soname"
+    expect "the library has a soname" "lib$name.so.1.0" "$soname"
     [ -e "$1/$soname" ] || fail "$soname is not installed"
     needed=$(objdump -p "$1/lib$name.so" | awk '$1 == "NEEDED" && /Qt/ { print $2 }' | sort | tr '\n' ' ')
     expect "Qt Core and Network are all of Qt it needs" "libQt${qt}Core.so.$qt libQt${qt}Network.so.$qt " "$needed"

@@ -28,9 +28,9 @@ make_debs "$qt" "$work_dir/build" -G "$generator" -DCMAKE_CXX_COMPILER="$compile
     }
 
 if [ "$qt" = 5 ]; then
-    runtime=libarvxml1 qt_package=qtbase5-dev qt_version=5.15
+    runtime=libarvxml1.0 qt_package=qtbase5-dev qt_version=5.15
 else
-    runtime=libarvxml-qt6-1 qt_package=qt6-base-dev qt_version=6.4
+    runtime=libarvxml-qt6-1.0 qt_package=qt6-base-dev qt_version=6.4
 fi
 development=lib$name-dev
 architecture=$(dpkg --print-architecture)
@@ -64,7 +64,7 @@ expect "the synopsis" "Objects for the XML documents of the planning protocol (Q
     "$(field "$development_deb" Description | head -n 1)"
 expect "it depends on the library of the same version and on Qt" "$runtime (= 1.0.0), $qt_package (>= $qt_version)" \
     "$(field "$development_deb" Depends)"
-expect "other packages learn what to depend on" "lib$name 1 $runtime (>= 1.0.0)" "$(dpkg-deb -I "$runtime_deb" shlibs)"
+expect "other packages learn what to depend on" "lib$name 1.0 $runtime (>= 1.0.0)" "$(dpkg-deb -I "$runtime_deb" shlibs)"
 expect "the cache of libraries is renewed" "activate-noawait ldconfig" \
     "$(dpkg-deb -I "$runtime_deb" triggers)"
 control_files() {
@@ -85,7 +85,7 @@ done
 content() {
     dpkg-deb --fsys-tarfile "$1" | tar -t | sed 's|^\./||' | grep -v '/$' | LC_ALL=C sort
 }
-expect "the runtime package brings the library" "$library_dir/lib$name.so.1 $library_dir/lib$name.so.1.0.0" \
+expect "the runtime package brings the library" "$library_dir/lib$name.so.1.0 $library_dir/lib$name.so.1.0.0" \
     "$(content "$runtime_deb" | xargs)"
 expect "the development package brings these beside the headers" \
     "$library_dir/cmake/$package/${package}Config.cmake

@@ -17,8 +17,8 @@ for qt in 5 6; do
     expect_cmake
     expect_pkgconfig
     expect_readme
-    expect "the system knows the library" "lib$name.so.1" \
-        "$(ldconfig -p | awk -v "library=lib$name.so.1" '$1 == library { print $1 }')"
+    expect "the system knows the library" "lib$name.so.1.0" \
+        "$(ldconfig -p | awk -v "library=lib$name.so.1.0" '$1 == library { print $1 }')"
 done
 
 echo "== Both in one project"
