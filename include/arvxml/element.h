@@ -151,24 +151,4 @@ private:
     QString m_version;
 };
 
-/// What all objects of a class have in common. It stays as it is when one is assigned to.
-template <typename T>
-class OfClass {
-public:
-    /// \a value must live as long as the program.
-    OfClass(const T& value)
-        : m_value(&value)
-    {
-    }
-    OfClass(const OfClass&) = default;
-    ~OfClass() = default;
-    OfClass& operator=(const OfClass&) noexcept { return *this; }
-
-    const T& operator*() const { return *m_value; }
-    const T* operator->() const { return m_value; }
-
-private:
-    const T* m_value;
-};
-
 } // namespace ArvXml

@@ -23,6 +23,9 @@ public:
     /// The precision in degrees.
     int precision() const { return static_cast<int>(m_value); }
     void setPrecision(int precision) { m_value = precision; }
+
+private:
+    const QuantityRules& rules() const override;
 };
 
 /// The base of the named sites of a plan: a name and a position. A position before the name is read, but then the

@@ -60,7 +60,7 @@ private:
     Parameter& at(int parameter) { return m_parameters[static_cast<std::size_t>(parameter)]; }
     void readParameter(int parameter, ElementReader& in);
 
-    OfClass<ParameterTable> m_table;
+    const ParameterTable* m_table;
     std::vector<Parameter> m_parameters;
 };
 

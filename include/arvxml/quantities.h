@@ -18,6 +18,9 @@ public:
     /// The level in dBm.
     double dBm() const { return m_value; }
     void setDBM(double dBm) { m_value = dBm; }
+
+private:
+    const QuantityRules& rules() const override;
 };
 
 /// A ratio in dB: `<Decibel version="1.0" unit="dB">3.000000</Decibel>`. Default -0.0.
@@ -31,6 +34,9 @@ public:
     /// The ratio in dB.
     double decibel() const { return m_value; }
     void setDecibel(double decibel) { m_value = decibel; }
+
+private:
+    const QuantityRules& rules() const override;
 };
 
 /// An angle in degrees: `<Degrees version="1.0" unit="°">12.3</Degrees>`. Default -0.0.
@@ -43,6 +49,9 @@ public:
     /// The angle in degrees.
     double degrees() const { return m_value; }
     void setDegrees(double degrees) { m_value = degrees; }
+
+private:
+    const QuantityRules& rules() const override;
 };
 
 /// A length in whole metres: `<AntennaHeight version="1.0" unit="m">10</AntennaHeight>`. Default 0.
@@ -56,6 +65,9 @@ public:
     /// The length in metres.
     int length() const { return static_cast<int>(m_value); }
     void setLength(int length) { m_value = length; }
+
+private:
+    const QuantityRules& rules() const override;
 };
 
 /// A power in W: `<TxPower version="1.0" unit="W">10.000000000000000</TxPower>`. Default -9.9.
@@ -68,6 +80,9 @@ public:
     /// The power in W.
     double power() const { return m_value; }
     void setPower(double power) { m_value = power; }
+
+private:
+    const QuantityRules& rules() const override;
 };
 
 /// A frequency: `<Frequency version="1.0" unit="kHz">2400.000000</Frequency>`. Default -9.9 MHz.
@@ -91,6 +106,7 @@ public:
     void setUnit(const QString& unit) { m_unit = unit; }
 
 private:
+    const QuantityRules& rules() const override;
     bool isUnitValid() const override;
     void takeNumber(double number) override;
     double writtenNumber() const override;
@@ -109,6 +125,9 @@ public:
     /// The bandwidth in kHz.
     double bandwidth_khz() const { return m_value; }
     void setBandwidth(double bandwidth) { m_value = bandwidth; }
+
+private:
+    const QuantityRules& rules() const override;
 };
 
 /// A field strength threshold in dBm:
@@ -123,6 +142,9 @@ public:
     /// The threshold in dBm.
     double fieldstrength() const { return m_value; }
     void setFieldstrength(double fieldstrength) { m_value = fieldstrength; }
+
+private:
+    const QuantityRules& rules() const override;
 };
 
 /// A signal-to-interference ratio (SINAD): `<SINAD version="1.0">12.000000</SINAD>`, without a unit;
@@ -137,6 +159,9 @@ public:
     /// The ratio, without a unit.
     double sinad() const { return m_value; }
     void setSinad(double sinad) { m_value = sinad; }
+
+private:
+    const QuantityRules& rules() const override;
 };
 
 } // namespace ArvXml

@@ -29,7 +29,10 @@ protected:
 
     void addErrors() override;
 
-    OfClass<QuantityRules> m_rules;
+    /// The rules that the constructor got. An object does not keep them: lists of levels would take a third more
+    /// memory.
+    virtual const QuantityRules& rules() const = 0;
+
     double m_value;
 
 private:

@@ -9,95 +9,35 @@ namespace ArvXml {
 
 namespace {
 
-// Only normal positive numbers pass, so zero, negative values and most defaults do not. The
-// protocol judges levels, ratios and SINADs this way.
-bool isNormalPositive(double value)
+/// Levels, ratios and SINADs: only normal positive numbers pass, so zero, negative values and most defaults do not.
+QuantityRules normalPositive(const QString& unit, double defaultValue, int decimals, const char* error)
 {
-    return value > std::numeric_limits<double>::min() && value < std::numeric_limits<double>::max();
+    using Limits = std::numeric_limits<double>;
+    return reportingNan(
+        realQuantity(unit, defaultValue, {'f', decimals}, above(Limits::min()), below(Limits::max()), error));
 }
 
-/// The nine quantities: unit, default, numbers, format, what is valid, whether NaN is reported, problems.
+/// The nine quantities: unit, default, format or decimals, lowest and highest value, problems.
 struct AllRules {
-    QuantityRules dBm = {
-        QStringLiteral("dBm"), -110.0, QuantityRules::Real, {'f', 9},
-        isNormalPositive,      true,   "Illegal decibel.",  nullptr,
-    };
-    QuantityRules decibel = {
-        QStringLiteral("dB"), -0.0, QuantityRules::Real, {'f', 6}, isNormalPositive, true, "Illegal decibel.", nullptr,
-    };
-    QuantityRules degrees = {
-        QString(QChar(0x00B0)),
-        -0.0,
-        QuantityRules::Real,
-        {'f', 1},
-        [](double value) { return value >= 0.0 && value <= 90.0; },
-        true,
-        "Illegal decibel.", // an angle, and yet
-        nullptr,
-    };
-    QuantityRules length = {
-        QStringLiteral("m"),
-        0.0,
-        QuantityRules::Integer,
-        {'f', 0},
-        [](double) { return true; },
-        false,
-        nullptr,
-        "Illegal unit (must be \"m\").",
-    };
-    QuantityRules power = {
-        QStringLiteral("W"),
-        -9.9,
-        QuantityRules::Real,
-        {'f', 15},
-        [](double value) { return value >= -60.0; },
-        false,
-        "Illegal power.",
-        "Illegal unit.",
-    };
-    QuantityRules frequency = {
-        QStringLiteral("MHz"),
-        -9.9,
-        QuantityRules::Real,
-        {'f', 6},
-        [](double value) { return value > 0.0; },
-        false,
-        "Illegal frequency.",
-        "Illegal unit.",
-    };
-    QuantityRules bandwidth = {
-        QStringLiteral("kHz"),
-        -1.0,
-        QuantityRules::Integer,
-        {'g', 6},
-        [](double value) { return value >= 0.0; },
-        false,
-        "XmlDfPrecisionType: Illegal precision.", // names another class
-        "XmlDfPrecisionType: Illegal unit.",
-    };
-    QuantityRules fieldstrength = {
-        QStringLiteral("dBm"),
-        -99999.999,
-        QuantityRules::Real,
-        {'f', 15},
-        [](double value) { return value > -99999.989; },
-        false,
-        "Illegal fieldstrength.",
-        "Illegal unit.",
-    };
-    QuantityRules sinad = {
-        QString(),
-        0.0,
-        QuantityRules::Real,
-        {'f', 6},
-        isNormalPositive,
-        true,
-        "Illegal frequency.", // no frequency, and yet
-        nullptr,
-    };
+    QuantityRules dBm = normalPositive(QStringLiteral("dBm"), -110.0, 9, "Illegal decibel.");
+    QuantityRules decibel = normalPositive(QStringLiteral("dB"), -0.0, 6, "Illegal decibel.");
+    QuantityRules degrees = // an angle, and yet reported as a decibel
+        reportingNan(realQuantity(QString(QChar(0x00B0)), -0.0, {'f', 1}, 0.0, 90.0, "Illegal decibel."));
+    QuantityRules length =
+        integerQuantity(QStringLiteral("m"), 0.0, {'f', 0}, -unlimited, nullptr, "Illegal unit (must be \"m\").");
+    QuantityRules power =
+        realQuantity(QStringLiteral("W"), -9.9, {'f', 15}, -60.0, unlimited, "Illegal power.", "Illegal unit.");
+    QuantityRules frequency = realQuantity(QStringLiteral("MHz"), -9.9, {'f', 6}, above(0.0), unlimited,
+                                           "Illegal frequency.", "Illegal unit.");
+    QuantityRules bandwidth = // its problems name another class
+        integerQuantity(QStringLiteral("kHz"), -1.0, {'g', 6}, 0.0, "XmlDfPrecisionType: Illegal precision.",
+                        "XmlDfPrecisionType: Illegal unit.");
+    QuantityRules fieldstrength = realQuantity(QStringLiteral("dBm"), -99999.999, {'f', 15}, above(-99999.989),
+                                               unlimited, "Illegal fieldstrength.", "Illegal unit.");
+    QuantityRules sinad = normalPositive(QString(), 0.0, 6, "Illegal frequency."); // no frequency, and yet
 };
 
-const AllRules& rules()
+const AllRules& allRules()
 {
     static const NeverDestroyed<AllRules> rules = AllRules();
     return rules;
@@ -129,33 +69,63 @@ const FrequencyUnit* frequencyUnit(const QString& unit)
 } // namespace
 
 XmlDBMType::XmlDBMType()
-    : XmlFixedUnitQuantity(QStringLiteral("XmlDBMType"), rules().dBm)
+    : XmlFixedUnitQuantity(QStringLiteral("XmlDBMType"), allRules().dBm)
 {
+}
+
+const QuantityRules& XmlDBMType::rules() const
+{
+    return allRules().dBm;
 }
 
 XmlDecibelType::XmlDecibelType()
-    : XmlFixedUnitQuantity(QStringLiteral("XmlDecibelType"), rules().decibel)
+    : XmlFixedUnitQuantity(QStringLiteral("XmlDecibelType"), allRules().decibel)
 {
+}
+
+const QuantityRules& XmlDecibelType::rules() const
+{
+    return allRules().decibel;
 }
 
 XmlDegreesType::XmlDegreesType()
-    : XmlFixedUnitQuantity(QStringLiteral("XmlDegreesType"), rules().degrees)
+    : XmlFixedUnitQuantity(QStringLiteral("XmlDegreesType"), allRules().degrees)
 {
+}
+
+const QuantityRules& XmlDegreesType::rules() const
+{
+    return allRules().degrees;
 }
 
 XmlLengthType::XmlLengthType()
-    : XmlReadUnitQuantity(QStringLiteral("XmlLengthType"), rules().length)
+    : XmlReadUnitQuantity(QStringLiteral("XmlLengthType"), allRules().length)
 {
+}
+
+const QuantityRules& XmlLengthType::rules() const
+{
+    return allRules().length;
 }
 
 XmlPowerType::XmlPowerType()
-    : XmlReadUnitQuantity(QStringLiteral("XmlPowerType"), rules().power)
+    : XmlReadUnitQuantity(QStringLiteral("XmlPowerType"), allRules().power)
 {
 }
 
-XmlFreqType::XmlFreqType()
-    : XmlReadUnitQuantity(QStringLiteral("XmlFreqType"), rules().frequency)
+const QuantityRules& XmlPowerType::rules() const
 {
+    return allRules().power;
+}
+
+XmlFreqType::XmlFreqType()
+    : XmlReadUnitQuantity(QStringLiteral("XmlFreqType"), allRules().frequency)
+{
+}
+
+const QuantityRules& XmlFreqType::rules() const
+{
+    return allRules().frequency;
 }
 
 bool XmlFreqType::isUnitValid() const
@@ -177,18 +147,33 @@ double XmlFreqType::writtenNumber() const
 }
 
 XmlBandwidthType::XmlBandwidthType()
-    : XmlReadUnitQuantity(QStringLiteral("XmlBandwidthType"), rules().bandwidth)
+    : XmlReadUnitQuantity(QStringLiteral("XmlBandwidthType"), allRules().bandwidth)
 {
+}
+
+const QuantityRules& XmlBandwidthType::rules() const
+{
+    return allRules().bandwidth;
 }
 
 XmlFieldstrengthType::XmlFieldstrengthType()
-    : XmlReadUnitQuantity(QStringLiteral("XmlFieldstrengthType"), rules().fieldstrength)
+    : XmlReadUnitQuantity(QStringLiteral("XmlFieldstrengthType"), allRules().fieldstrength)
 {
 }
 
-XmlSinadType::XmlSinadType()
-    : XmlQuantity(QStringLiteral("XmlSinadType"), rules().sinad)
+const QuantityRules& XmlFieldstrengthType::rules() const
 {
+    return allRules().fieldstrength;
+}
+
+XmlSinadType::XmlSinadType()
+    : XmlQuantity(QStringLiteral("XmlSinadType"), allRules().sinad)
+{
+}
+
+const QuantityRules& XmlSinadType::rules() const
+{
+    return allRules().sinad;
 }
 
 } // namespace ArvXml

@@ -12,24 +12,24 @@ namespace ArvXml {
 
 XmlQuantity::XmlQuantity(const QString& className, const QuantityRules& rules)
     : XmlElement(className)
-    , m_rules(rules)
     , m_value(rules.defaultValue)
 {
 }
 
 void XmlQuantity::processXml(QXmlStreamReader& reader, const QString& tagName)
 {
+    const QuantityRules& rules = this->rules();
     ElementReader in(classname(), reader, tagName, leafWording);
     if (readVersion(in, m_version))
         readUnit(in);
     in.readLeaf([&](const auto& text) {
         bool ok = false;
-        const double number = m_rules->numbers == QuantityRules::Real ? toReal(text, &ok) : toInteger(text, &ok);
+        const double number = rules.isInteger ? toInteger(text, &ok) : toReal(text, &ok);
         if (ok) {
             takeNumber(number);
         } else {
             in.fail(QStringLiteral("Illegal value (must be numeric)"));
-            m_value = m_rules->defaultValue;
+            m_value = rules.defaultValue;
         }
     });
 }
@@ -40,27 +40,27 @@ void XmlQuantity::produceXml(QXmlStreamWriter& writer, const QString& tagName) c
     writeVersion(writer, m_version);
     if (const QString* unit = writtenUnit())
         writer.writeAttribute(unitAttribute(), *unit);
-    writer.writeCharacters(numberText(writtenNumber(), m_rules->format));
+    writer.writeCharacters(numberText(writtenNumber(), rules().format));
     writer.writeEndElement();
 }
 
 bool XmlQuantity::isValid() const
 {
-    return supportsVersion() && m_rules->isValid(m_value) && isUnitValid();
+    return supportsVersion() && rules().accepts(m_value) && isUnitValid();
 }
 
 void XmlQuantity::addErrors()
 {
     addSyntaxError(versionError(m_version));
-    if (!m_rules->isValid(m_value) && (m_rules->reportsNan || !std::isnan(m_value)))
-        addSyntaxError(QString::fromLatin1(m_rules->valueError));
+    if (!rules().accepts(m_value) && (rules().reportsNan || !std::isnan(m_value)))
+        addSyntaxError(QString::fromLatin1(rules().valueError));
     if (!isUnitValid())
-        addSyntaxError(QString::fromLatin1(m_rules->unitError));
+        addSyntaxError(QString::fromLatin1(rules().unitError));
 }
 
 void XmlQuantity::reset()
 {
-    m_value = m_rules->defaultValue;
+    m_value = rules().defaultValue;
     m_version = supportedVersion();
     XmlElement::reset();
 }
@@ -89,7 +89,7 @@ double XmlQuantity::writtenNumber() const
 
 const QString& XmlFixedUnitQuantity::unit() const
 {
-    return m_rules->unit;
+    return rules().unit;
 }
 
 const QString* XmlFixedUnitQuantity::writtenUnit() const
@@ -105,7 +105,7 @@ XmlReadUnitQuantity::XmlReadUnitQuantity(const QString& className, const Quantit
 
 void XmlReadUnitQuantity::reset()
 {
-    m_unit = m_rules->unit;
+    m_unit = rules().unit;
     XmlQuantity::reset();
 }
 
@@ -121,7 +121,7 @@ const QString* XmlReadUnitQuantity::writtenUnit() const
 
 bool XmlReadUnitQuantity::isUnitValid() const
 {
-    return isSameText(m_unit, m_rules->unit);
+    return isSameText(m_unit, rules().unit);
 }
 
 } // namespace ArvXml

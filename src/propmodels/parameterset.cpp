@@ -12,7 +12,7 @@ namespace ArvXml {
 
 XmlParameterSet::XmlParameterSet(const QString& className, const ParameterTable& table)
     : XmlElement(className)
-    , m_table(table)
+    , m_table(&table)
 {
     resetParameters();
 }

@@ -323,9 +323,7 @@ void checkOwnBase()
 {
     static_assert(!std::is_default_constructible_v<T>);
     constexpr bool hasEveryOperation =
-        std::is_base_of_v<
-            XmlQuantity,
-            T> || std::is_base_of_v<XmlParameterSet, T> || std::is_same_v<T, XmlResInfo> || std::is_same_v<T, XmlVersioned>;
+        std::is_same_v<T, XmlParameterSet> || std::is_same_v<T, XmlResInfo> || std::is_same_v<T, XmlVersioned>;
     static_assert(std::is_abstract_v<T> != hasEveryOperation);
     static_assert(isPublicElement<T> != std::is_same_v<T, XmlVersioned>);
     // A set with the values of another kind of set would look for values that it has not.
@@ -504,9 +502,8 @@ private Q_SLOTS:
         const QRegularExpression definition(
             QStringLiteral(R"(^(?:class|struct)\s+(?:ARVXML_EXPORT\s+)?(\w+)(?:\s+final)?\s*(:|\{))"),
             QRegularExpression::MultilineOption);
-        const QStringList others = {// Helpers, not exported: how children and the rules of a class are held.
-                                    QStringLiteral("OptionalChild"), QStringLiteral("OwnedList"),
-                                    QStringLiteral("OfClass")};
+        const QStringList others = {// Helpers, not exported: how children are held.
+                                    QStringLiteral("OptionalChild"), QStringLiteral("OwnedList")};
         QStringList found;
         for (const QString& file : files) {
             QFile header(headers.filePath(file));
