@@ -188,7 +188,7 @@ public:
     }
     ContentModel& wrapperEnds(std::initializer_list<WrapperEnd> ends)
     {
-        m_wrapperEnds = ends;
+        m_wrapperEnds.insert(m_wrapperEnds.end(), ends);
         return *this;
     }
     /// The marks that are set once the start tag has been read.

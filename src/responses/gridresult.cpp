@@ -36,47 +36,39 @@ constexpr Marks typeMark(XmlGridResultType::ResultType type)
     return type == XmlGridResultType::ResultUndefined ? 0 : Marks(FirstType) << (type - 1);
 }
 
-/// Parameters of one kind, written in their wrapper together with the file name. The wrapper's tag is only entered:
-/// "Parameter" is what reads the set.
-template <auto Member>
-Row wrapper(const char* tag, XmlGridResultType::ResultType type)
+/// One kind of result: parameters in a wrapper, which are written together with the file name. The wrapper's tag is
+/// only entered; "Parameter" is what reads the parameters, whatever the wrapper. Odd: they take the wrapper's tag for
+/// their own, and so refuse the end tag of "Parameter": reading ends there.
+template <auto Member, const char* tag>
+void addKind(ContentModel& model, XmlGridResultType::ResultType type)
 {
-    Binding binding = heldIn<Member>();
-    binding.holds.kind = ContentKind::Wrapper;
-    binding.write = [](const XmlElementBase& owner, QXmlStreamWriter& writer, const QString& wrapper) {
-        const auto& set = memberOf<Member>(owner);
-        if (!set.isPresent())
+    Binding wrapper = heldIn<Member>();
+    wrapper.holds.kind = ContentKind::Wrapper;
+    wrapper.write = [](const XmlElementBase& owner, QXmlStreamWriter& writer, const QString& wrapperTag) {
+        const auto& held = memberOf<Member>(owner);
+        if (!held.isPresent())
             return;
-        writer.writeStartElement(wrapper);
-        set.get()->produceXml(writer, QStringLiteral("Parameter"));
+        writer.writeStartElement(wrapperTag);
+        held.get()->produceXml(writer, QStringLiteral("Parameter"));
         writer.writeTextElement(QStringLiteral("ScreenshotFilename"),
                                 static_cast<const XmlGridResultType&>(owner).screenshotFilename());
         writer.writeEndElement();
     };
-    return Row(tag, binding)
-        .alternative(1)
-        .required()
-        .marks(InWrapper)
-        .refusedAfter(InWrapper | WrapperDone)
-        .onlyAfter(typeMark(type));
-}
-
-/// The parameters of a result of \a type, whatever the wrapper. Odd: the set takes the wrapper's tag for its own, and
-/// so refuses the end tag of "Parameter": reading ends there.
-template <auto Member, const char* tag>
-Row parameter(XmlGridResultType::ResultType type)
-{
-    Binding binding;
-    binding.holds = heldIn<Member>().holds;
-    binding.read = [](XmlElementBase& owner, ElementReader& in, const QString&) {
+    Binding parameters;
+    parameters.holds = heldIn<Member>().holds;
+    parameters.read = [](XmlElementBase& owner, ElementReader& in, const QString&) {
         memberOf<Member>(owner).renew().processXml(in.stream(), QString::fromLatin1(tag));
     };
-    return Row("Parameter", binding).within(tag).required().onlyAfter(InWrapper | typeMark(type));
-}
-
-WrapperEnd wrapperEnd(const char* tag)
-{
-    return WrapperEnd(tag).onlyAfter(InWrapper).clears(InWrapper).marks(WrapperDone);
+    model.rows({
+        Row(tag, wrapper)
+            .alternative(1)
+            .required()
+            .marks(InWrapper)
+            .refusedAfter(InWrapper | WrapperDone)
+            .onlyAfter(typeMark(type)),
+        Row("Parameter", parameters).within(tag).required().onlyAfter(InWrapper | typeMark(type)),
+    });
+    model.wrapperEnds({WrapperEnd(tag).onlyAfter(InWrapper).clears(InWrapper).marks(WrapperDone)});
 }
 
 void readType(XmlElementBase& owner, ElementReader& in)
@@ -128,25 +120,17 @@ const ContentModel& XmlGridResultType::contentModel() const
     using Self = XmlGridResultType;
     // Odd: the type in the start tag decides which wrapper and which parameters are taken. Nothing completes the
     // element, since reading ends inside the wrapper.
-    static const NeverDestroyed<ContentModel> model =
-        ContentModel(compositeWording)
-            .attributes(readType, writeType)
+    static const NeverDestroyed<ContentModel> model = [] {
+        ContentModel result(compositeWording);
+        addKind<&Self::m_findSites, findSitesTag>(result, ResultFindSites);
+        addKind<&Self::m_cep, cepTag>(result, ResultCep);
+        addKind<&Self::m_detectProb, detectProbTag>(result, ResultDetectProb);
+        addKind<&Self::m_dfCov, dfCovTag>(result, ResultDfCoverage);
+        addKind<&Self::m_bestSensor, bestSensorTag>(result, ResultBestSensorCov);
+        return result.attributes(readType, writeType)
             .startsWith([](const XmlElementBase& owner) { return typeMark(static_cast<const Self&>(owner).m_type); })
-            .rows({
-                wrapper<&Self::m_findSites>(findSitesTag, ResultFindSites),
-                wrapper<&Self::m_cep>(cepTag, ResultCep),
-                wrapper<&Self::m_detectProb>(detectProbTag, ResultDetectProb),
-                wrapper<&Self::m_dfCov>(dfCovTag, ResultDfCoverage),
-                wrapper<&Self::m_bestSensor>(bestSensorTag, ResultBestSensorCov),
-                parameter<&Self::m_findSites, findSitesTag>(ResultFindSites),
-                parameter<&Self::m_cep, cepTag>(ResultCep),
-                parameter<&Self::m_detectProb, detectProbTag>(ResultDetectProb),
-                parameter<&Self::m_dfCov, dfCovTag>(ResultDfCoverage),
-                parameter<&Self::m_bestSensor, bestSensorTag>(ResultBestSensorCov),
-            })
-            .wrapperEnds({wrapperEnd(findSitesTag), wrapperEnd(cepTag), wrapperEnd(detectProbTag), wrapperEnd(dfCovTag),
-                          wrapperEnd(bestSensorTag)})
             .neverComplete();
+    }();
     return model;
 }
 
