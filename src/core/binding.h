@@ -17,11 +17,11 @@ namespace ArvXml {
 class EnumerationTexts;
 
 template <typename Member>
-constexpr bool isOptionalChild = false;
+inline constexpr bool isOptionalChild = false;
 template <typename T>
-constexpr bool isOptionalChild<OptionalChild<T>> = true;
+inline constexpr bool isOptionalChild<OptionalChild<T>> = true;
 template <typename T>
-constexpr bool isOptionalChild<const OptionalChild<T>> = true;
+inline constexpr bool isOptionalChild<const OptionalChild<T>> = true;
 
 /// Calls \a function with each child held in \a member: one that is always present, one that may be absent, or a list.
 template <typename Member, typename Function>
