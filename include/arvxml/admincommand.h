@@ -1,30 +1,27 @@
 #pragma once
 
 /// \file
-/// The command that asks the service about itself.
+/// The command that queries the service.
 
 #include "arvxml/command.h"
 
 namespace ArvXml {
 
-/// A command that asks the service about itself:
-/// `<Administrative><QueryVersion/><Reference>42</Reference></Administrative>`.
-///
-/// The only one is the version query. The kind is set by reading alone; a new command has none
-/// ("Invalid Administrative command type"). Query and reference may come in either order; the
-/// reference may be missing or repeated on reading, and the last one counts. What stands inside
-/// "QueryVersion" is read as if it stood beside it.
+/// A command that queries the service: `<Administrative><QueryVersion/><Reference>42</Reference></Administrative>`. The
+/// only query is the version query. Only reading sets the kind; a new command has none ("Invalid Administrative command
+/// type"). Query and reference may come in either order. On reading, the reference may be missing, and both may be
+/// repeated; the last one counts. Content of "QueryVersion" is read as if it were outside.
 class ARVXML_EXPORT XmlCmdAdmin : public XmlCommand {
 public:
-    /// What is asked.
+    /// The kinds of queries.
     enum AdminCmd : int {
-        AdminUndefined = 0,    ///< Nothing.
+        AdminUndefined = 0,    ///< Not set.
         AdminQueryVersion = 1, ///< The version of the service, tag "QueryVersion".
     };
 
     XmlCmdAdmin();
 
-    /// What is asked; nothing on a new command.
+    /// The kind; AdminUndefined for a new command.
     AdminCmd adminCmd() const { return m_command; }
 
     bool isValid() const override;

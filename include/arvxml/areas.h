@@ -11,11 +11,8 @@
 
 namespace ArvXml {
 
-/// The base of the named regions of a plan: a name, and as region either a rectangle or a polygon.
-///
-/// Setting or reading one of the two removes the other. With neither the problem reads "Neither
-/// AreaRect nor AreaPolygon"; so it would with both. A region before the name is read, but then the name is
-/// refused.
+/// The base of named areas: a name, then a rectangle or a polygon. Setting or reading one shape removes the other. With
+/// none or both, the problem is "Neither AreaRect nor AreaPolygon". If a shape is read first, the name is refused.
 class ARVXML_EXPORT XmlPlanArea : public XmlVersionedComposite {
 public:
     /// The name, tag "Name".
@@ -40,7 +37,8 @@ protected:
     OptionalChild<XmlAreaPolyType> m_areaPoly;
 };
 
-/// A region in which sensors may be placed, and what is assumed for them there:
+/// An area in which sensors may be placed, and the assumptions for sensors there. The children come in the order shown,
+/// with either "AreaRect" or "AreaPolygon". Only the signal path is optional; reading reuses an existing one.
 /// \code{.xml}
 /// <DeploymentArea version="1.0">
 ///     <SignalPath version="1.0">...</SignalPath>
@@ -52,8 +50,6 @@ protected:
 ///     <TxPower version="1.0" unit="W">10.000000000000000</TxPower>
 /// </DeploymentArea>
 /// \endcode
-/// The children come in this order, with "AreaPolygon" for "AreaRect" as the case may be. Only the signal path is
-/// optional; reading reuses the one held. Another version than "1.0" is refused while reading.
 class ARVXML_EXPORT XmlDeploymentAreaType : public XmlPlanArea {
 public:
     XmlDeploymentAreaType();
@@ -71,11 +67,11 @@ public:
     const XmlFieldstrengthType* rxThresh() const { return &m_rxThreshold; }
     void setRxThresh(const XmlFieldstrengthType& threshold) { m_rxThreshold = threshold; }
 
-    /// The frequency on which the sensors transmit, tag "Frequency".
+    /// The transmit frequency of the sensors, tag "Frequency".
     const XmlFreqType* txFreq() const { return &m_txFrequency; }
     void setTxFreq(const XmlFreqType& frequency) { m_txFrequency = frequency; }
 
-    /// The power with which the sensors transmit, tag "TxPower".
+    /// The transmit power of the sensors, tag "TxPower".
     const XmlPowerType* txPower() const { return &m_txPower; }
     void setTxPower(const XmlPowerType& power) { m_txPower = power; }
 
@@ -89,7 +85,8 @@ private:
     XmlPowerType m_txPower;
 };
 
-/// A region to be covered (area of interest), and what is assumed for the emitters in it:
+/// An area to be covered (area of interest), and the assumptions for the emitters in it. The children come in the order
+/// shown, with either "AreaPolygon" or "AreaRect". Only the threshold is optional; reading replaces it.
 /// \code{.xml}
 /// <AOI version="1.0">
 ///     <Name>Northern valley</Name>
@@ -98,8 +95,6 @@ private:
 ///     <RxThreshold version="1.0" unit="dBm">-100.000000000000000</RxThreshold>
 /// </AOI>
 /// \endcode
-/// The children come in this order, with "AreaRect" for "AreaPolygon" as the case may be. Only the threshold is
-/// optional; reading replaces the one held. Another version than "1.0" is refused while reading.
 class ARVXML_EXPORT XmlAoiType : public XmlPlanArea {
 public:
     XmlAoiType();
@@ -113,8 +108,7 @@ public:
     const XmlFieldstrengthType* RxThres() const { return m_rxThreshold.get(); }
     void setRxThres(const XmlFieldstrengthType& threshold) { m_rxThreshold.set(threshold); }
 
-    /// As elsewhere, but a threshold held is reset and let go without being destroyed: it then belongs
-    /// to whoever kept its pointer.
+    /// Resets the element. The threshold is reset and released, not destroyed: whoever kept its pointer then owns it.
     void reset() override;
 
 private:

@@ -1,7 +1,7 @@
 #pragma once
 
 /// \file
-/// The service's answer to one command.
+/// The response of the service to one command.
 
 #include "arvxml/composite.h"
 #include "arvxml/gridresult.h"
@@ -12,60 +12,55 @@
 
 namespace ArvXml {
 
-/// The service's answer to one command:
+/// The response of the service to one command. The reference is followed by exactly one item: "ErrorMessage" (with
+/// status "fault"), "EstimatedTime", "ArvVersion", "GridResult" or "InterlinkResult" (with status "ack").
 /// \code{.xml}
 /// <Automatic status="ack">
 ///     <CommandReference>42</CommandReference>
 ///     <EstimatedTime>2024-03-05T14:07:09</EstimatedTime>
 /// </Automatic>
 /// \endcode
-/// After the reference comes exactly one item: "ErrorMessage" (with status "fault"),
-/// "EstimatedTime", "ArvVersion", "GridResult" or "InterlinkResult" (with status "ack").
+/// An error message is written alone, otherwise an estimated time alone; without them version, grid result and
+/// interlink result are all written if present, which is more than a reader accepts. Reading replaces an existing
+/// result. A "GridResult" always ends the read with an error (see XmlGridResultType), but what was read is kept. Only
+/// reset() removes a result; message, version and time are removed by setting an empty value.
 ///
-/// An error message is written alone, else an estimated time alone; what else is held is dropped then.
-/// Otherwise version, grid result and interlink result are written as far as they are held, more than
-/// a reader accepts. isValid() and syntaxError() tell such objects, not always alike: three items are
-/// valid though reported, and no item is invalid though not reported. The problems read "Status not
-/// defined.", "Has ErrorMessage but not status 'fault'", "Has ErrorMessage but also EstimatedTime", "Must
-/// have status 'ack'", "If EstimatedTime given, no results allowed", "If ArvVersion set, no results
-/// allowed" and "Only one result allowed".
-///
-/// A "GridResult" always ends the read with an error, see XmlGridResultType; what was read is kept. Reading replaces a
-/// result held.
-///
-/// A result held is removed by reset() only; message, version and time go away with an empty value.
+/// isValid() and syntaxError() check the number of items, but differ: three items are valid but reported, no item is
+/// invalid but not reported. The problems are "Status not defined.", "Has ErrorMessage but not status 'fault'", "Has
+/// ErrorMessage but also EstimatedTime", "Must have status 'ack'", "If EstimatedTime given, no results allowed", "If
+/// ArvVersion set, no results allowed" and "Only one result allowed".
 class ARVXML_EXPORT XmlAutoRespType : public XmlComposite {
 public:
-    /// How the command fared, with the texts.
+    /// The outcomes of a command, with their texts.
     enum RespStatus : int {
-        StatusUndefined = 0, ///< Not told.
-        StatusFault = 1,     ///< "fault": it failed.
-        StatusAck = 2,       ///< "ack": it is acknowledged.
+        StatusUndefined = 0, ///< Not set.
+        StatusFault = 1,     ///< "fault": the command failed.
+        StatusAck = 2,       ///< "ack": the command is acknowledged.
     };
 
     XmlAutoRespType();
-    /// Attribute "status"; an unknown text is the reader error "Illegal attribute value in "status"".
-    /// An undefined status is written as "UNDEFINED", which no reader accepts.
+    /// Attribute "status"; other texts are the reader error "Illegal attribute value in "status"". An undefined status
+    /// is written as "UNDEFINED", which no reader accepts.
     RespStatus status() const { return m_status; }
     void setStatus(RespStatus status) { m_status = status; }
 
-    /// The reference of the command answered, tag "CommandReference".
+    /// The reference of the answered command, tag "CommandReference".
     const XmlReferenceType& reference() const { return m_reference; }
     void setReference(const XmlReferenceType& reference) { m_reference = reference; }
 
     bool hasErrorMessage() const { return !m_errorMessage.isEmpty(); }
-    /// What went wrong, tag "ErrorMessage"; empty for nothing.
+    /// The error message, tag "ErrorMessage"; empty if there is none.
     const QString& errorMessage() const { return m_errorMessage; }
     void setErrorMessage(const QString& message) { m_errorMessage = message; }
 
     bool hasEstimatedTime() const { return m_estimatedTime.isValid(); }
-    /// When the result is expected, tag "EstimatedTime"; invalid for no estimate, in ISO 8601 on the wire, written to
-    /// the second. A text of another form is the reader error "Illegal dateTime format".
+    /// The expected time of the result, tag "EstimatedTime", in ISO 8601, written to the second; invalid if there is
+    /// none. Another format is the reader error "Illegal dateTime format".
     const QDateTime& estimatedTime() const { return m_estimatedTime; }
     void setEstimatedTime(const QDateTime& time) { m_estimatedTime = time; }
 
     bool hasArvVersion() const { return !m_arvVersion.isEmpty(); }
-    /// The service's version, the answer to a version query, tag "ArvVersion"; empty for none.
+    /// The version of the service (the answer to a version query), tag "ArvVersion"; empty if there is none.
     const QString& arvVersion() const { return m_arvVersion; }
     void setArvVersion(const QString& version) { m_arvVersion = version; }
 

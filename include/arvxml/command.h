@@ -1,7 +1,7 @@
 #pragma once
 
 /// \file
-/// What all commands have in common.
+/// The bases of the commands.
 
 #include "arvxml/composite.h"
 #include "arvxml/names.h"
@@ -9,11 +9,8 @@
 
 namespace ArvXml {
 
-/// The base of the commands of a command document: a reference, by which a response points back to
-/// the command, and a copy of the document's order envelope.
-///
-/// The envelope is never read or written by a command: the document root reads it and hands each
-/// command a copy.
+/// The base of all commands: a reference, by which a response refers to the command, and a copy of the document's order
+/// envelope. Commands neither read nor write the envelope: the document root hands each of them a copy.
 class ARVXML_EXPORT XmlCommand : public XmlComposite {
 public:
     /// The reference, 1 to 50 characters.
@@ -21,11 +18,11 @@ public:
     void setCmdReference(const XmlReferenceType& reference) { m_reference = reference; }
 
     bool hasOrderDef() const { return m_orderDef.isPresent(); }
-    /// The envelope of the command's document, null when absent.
+    /// The envelope of the command's document; null when absent.
     const XmlOrderDef* orderDef() const { return m_orderDef.get(); }
     void setOrderDef(const XmlOrderDef& orderDef) { m_orderDef.set(orderDef); }
 
-    /// Resets the reference and what the command holds, and removes the envelope.
+    /// Resets the reference and the content, and removes the envelope.
     void reset() override;
 
 protected:
@@ -35,10 +32,8 @@ protected:
     XmlReferenceType m_reference;
 };
 
-/// The base of the commands that hold exactly one thing out of several, followed by the reference.
-///
-/// With none or more the problem reads "Too many or too few elements.". Setters fill the slot of their kind
-/// and never clear another.
+/// The base of the commands that hold exactly one of several elements, followed by the reference. With none or more the
+/// problem is "Too many or too few elements.". Setting one element never removes another.
 class ARVXML_EXPORT XmlChoiceCommand : public XmlCommand {
 public:
     bool isValid() const override;

@@ -10,8 +10,8 @@
 
 namespace ArvXml {
 
-/// The document element of a command document: an optional envelope, then the commands, each kind in
-/// a block of its own. The caller chooses its tag.
+/// The document element of a command document: an optional envelope, then the commands, grouped by kind in the order
+/// shown, each group optional. Every command except the propagation model may be repeated. The caller chooses the tag.
 /// \code{.xml}
 /// <Commands>
 ///     <ORDER_DEF>...</ORDER_DEF>
@@ -22,13 +22,9 @@ namespace ArvXml {
 ///     <Calculate>...</Calculate>
 /// </Commands>
 /// \endcode
-/// The blocks come in this order, each optional. Of every kind of command but the propagation model there may be any
-/// number.
-///
-/// A root is filled by reading or copying only: a program that writes commands writes the document
-/// element itself, with the envelope and the commands as children. Each command read gets a copy of
-/// the envelope. Reading does not reset the root: commands are appended, the envelope and the model are
-/// replaced. An empty root is valid.
+/// A root is filled only by reading or copying: a program that writes commands writes the document element itself, with
+/// the envelope and the commands as children. Reading does not reset the root: commands are appended, envelope and
+/// model replaced. Each command read gets a copy of the envelope. An empty root is valid.
 class ARVXML_EXPORT XmlCmdRoot : public XmlComposite {
 public:
     XmlCmdRoot();
@@ -38,15 +34,14 @@ public:
     const XmlOrderDef* orderDef() const { return m_orderDef.get(); }
     void setOrderDef(const XmlOrderDef& orderDef) { m_orderDef.set(orderDef); }
 
-    /// The commands of a kind in the order of the document. They belong to the root and live until it
-    /// is reset, assigned to or destroyed.
+    /// The commands of one kind in document order, owned by the root until it is reset, assigned to or destroyed.
     const QList<XmlCmdAdmin*> getAdministrativeCmds() const { return m_administrative.items(); }
     const QList<XmlCmdCreate*> getCreateCmds() const { return m_creates.items(); }
-    /// As above; the root neither judges nor reports the delete commands.
+    /// As above, but the root neither validates nor reports delete commands.
     const QList<XmlCmdDelete*> getDeleteCmds() const { return m_deletes.items(); }
     const QList<XmlCmdCalc*> getCalculationCmds() const { return m_calculations.items(); }
 
-    /// The propagation model command, tag "PropagationModel"; null when absent. One read replaces the one held.
+    /// The propagation model command, tag "PropagationModel"; null when absent. Reading replaces it.
     const XmlPropModelType* getPropagationModelCmd() const { return m_propModel.get(); }
 
 private:

@@ -1,7 +1,7 @@
 #pragma once
 
 /// \file
-/// The bases of the elements whose content is child elements.
+/// The bases of the elements that contain child elements.
 
 #include "arvxml/element.h"
 
@@ -9,11 +9,8 @@ namespace ArvXml {
 
 class ContentModel;
 
-/// The base of the elements whose content is child elements.
-///
-/// What such an element looks like on the wire is said once, by its content model: the tags in the order of writing,
-/// what they are bound to, and what may follow what. The operations here carry it out; a class overrides those in which
-/// it departs.
+/// The base of the elements with child elements. The content model defines the wire form: the tags in the order of
+/// writing, their bindings, and which may follow which. The operations follow it; a class overrides those that differ.
 class ARVXML_EXPORT XmlComposite : public XmlElement {
 public:
     void processXml(QXmlStreamReader& reader, const QString& tagName) override;
@@ -33,17 +30,17 @@ protected:
     void addChildrenErrors();
     /// Resets the children that are always present, and removes the others.
     void resetChildren();
-    /// How many children the element holds, those left out that are always present.
+    /// The number of children, not counting those that are always present.
     int heldChildren() const;
 
     virtual const ContentModel& contentModel() const = 0;
 
 private:
-    /// Reads what stands in the start tag.
+    /// Reads the start tag.
     virtual void readStartTag(ElementReader& in);
 };
 
-/// A composite with a version.
+/// A composite with a version. Unless its class says otherwise, versions other than "1.0" are refused on reading.
 class ARVXML_EXPORT XmlVersionedComposite : public XmlComposite, public XmlVersioned {
 public:
     bool isValid() const override;
@@ -59,8 +56,8 @@ private:
     void readStartTag(ElementReader& in) override;
 };
 
-/// The base of the lists: at least one item, all under one tag. Reading deletes the items held first.
-/// Another version than "1.0" is read, and reported when the list is judged.
+/// The base of the lists: at least one item, all with the same tag. Reading deletes the existing items first. Versions
+/// other than "1.0" are read and reported.
 class ARVXML_EXPORT XmlList : public XmlVersionedComposite {
 public:
     bool isValid() const override;

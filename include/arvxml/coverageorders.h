@@ -1,7 +1,7 @@
 #pragma once
 
 /// \file
-/// The calculation orders that ask for a result over areas of interest.
+/// The calculation orders for results over areas of interest.
 
 #include "arvxml/composite.h"
 #include "arvxml/enumeration.h"
@@ -10,12 +10,9 @@
 
 namespace ArvXml {
 
-/// The base of the orders that ask for a result over areas of interest: the sensors to use, the
-/// areas, and optionally the spacing of the result grid.
-///
-/// Sensors and areas are always held, always written, and required on reading. A grid read replaces the one held;
-/// what the document does not mention stays as it was. Name lists grow when read again, until "All" empties them. The
-/// orders have no problems of their own, only those of their children.
+/// The base of the orders for results over areas of interest: the sensors to use, the areas, and optionally the spacing
+/// of the result grid. Sensors and areas are always present and written, and required on reading. Reading replaces the
+/// grid, and appends names until "All" removes them. The orders have no problems but those of their children.
 class ARVXML_EXPORT XmlCoverageOrder : public XmlComposite {
 public:
     /// The areas of interest, tag "AOIs".
@@ -35,15 +32,13 @@ protected:
     OptionalChild<XmlResultGridType> m_resultGrid;
 };
 
-/// The probability level of a circular error, in percent: `<Probability>90</Probability>`.
-///
-/// The texts stand at the enumerators; another text is the reader error "Illegal enum value" (without
-/// a full stop). An undefined level is reported as "Illegal probability value.".
+/// The probability level of a circular error in percent: `<Probability>90</Probability>`. See the enumerators for the
+/// texts. Others are the reader error "Illegal enum value" (no full stop). Problem: "Illegal probability value.".
 class ARVXML_EXPORT XmlCepProbType : public XmlEnumeration {
 public:
     /// The levels, with their texts.
     enum Prob : int {
-        Undefined = 0, ///< None chosen.
+        Undefined = 0, ///< Not set.
         Prob50 = 1,    ///< "50"
         Prob66 = 2,    ///< "66"
         Prob75 = 3,    ///< "75"
@@ -62,7 +57,7 @@ private:
     const EnumerationRules& rules() const override;
 };
 
-/// The order of the circular error probable of direction-finding fixes, the last two children optional:
+/// The order for the circular error probable of direction-finding fixes; the last two children are optional:
 /// \code{.xml}
 /// <CEP>
 ///     <UseDFs><All/></UseDFs>
@@ -80,7 +75,7 @@ public:
     void setUseDFs(const XmlNameAllMultiType& sensors) { m_sensors = sensors; }
 
     bool hasProbability() const { return m_probability.isPresent(); }
-    /// The probability level, tag "Probability"; null when absent. Reading replaces the one held.
+    /// The probability level, tag "Probability"; null when absent. Reading replaces it.
     const XmlCepProbType* probability() const { return m_probability.get(); }
     void setProbability(const XmlCepProbType& probability) { m_probability.set(probability); }
 
@@ -90,7 +85,7 @@ private:
     OptionalChild<XmlCepProbType> m_probability;
 };
 
-/// The order of the detection probability, the grid optional:
+/// The order for the detection probability; the grid is optional:
 /// \code{.xml}
 /// <DetectionProbability>
 ///     <UseRxDFs><All/></UseRxDFs>
@@ -110,7 +105,7 @@ private:
     const ContentModel& contentModel() const override;
 };
 
-/// The order of the direction-finding coverage, the grid optional:
+/// The order for the direction-finding coverage; the grid is optional:
 /// \code{.xml}
 /// <DFcoverage>
 ///     <UseDFs><All/></UseDFs>
@@ -130,7 +125,7 @@ private:
     const ContentModel& contentModel() const override;
 };
 
-/// The order of the best sensor coverage, the last two children optional:
+/// The order for the best sensor coverage; the last two children are optional:
 /// \code{.xml}
 /// <BestSensorCov>
 ///     <UseRxDFs><All/></UseRxDFs>
@@ -148,7 +143,7 @@ public:
     void setUseRxDFs(const XmlNameAllMultiType& sensors) { m_sensors = sensors; }
 
     bool hasComment() const { return m_comment.isPresent(); }
-    /// A comment of 1 to 128 characters, tag "Comment"; null when absent. Reading replaces the one held.
+    /// A comment of 1 to 128 characters, tag "Comment"; null when absent. Reading replaces it.
     const XmlObjNameType* comment() const { return m_comment.get(); }
     void setComment(const XmlObjNameType& comment) { m_comment.set(comment); }
 

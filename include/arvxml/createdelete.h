@@ -1,7 +1,7 @@
 #pragma once
 
 /// \file
-/// The commands to create and to delete planning objects.
+/// The commands to create and delete planning objects.
 
 #include "arvxml/areas.h"
 #include "arvxml/command.h"
@@ -13,12 +13,10 @@
 
 namespace ArvXml {
 
-/// The command to create or replace one planning object:
-/// `<Create><Emitter version="1.0">...</Emitter><Reference>42</Reference></Create>`.
-///
-/// Exactly one object, then the reference; all objects held are written, in the order of the accessors below. A
-/// signal path is read under "Path" but written under "SignalPath", which the reader refuses: such a command cannot
-/// be read back.
+/// The command to create or replace one planning object, followed by the reference:
+/// `<Create><Emitter version="1.0">...</Emitter><Reference>42</Reference></Create>`. All objects set are written, in
+/// the order of the accessors. A signal path is read as "Path" but written as "SignalPath", which cannot be read back.
+/// Reading resets the command first, including its envelope.
 class ARVXML_EXPORT XmlCmdCreate : public XmlChoiceCommand {
 public:
     XmlCmdCreate();
@@ -54,7 +52,7 @@ public:
     void setStation(const XmlStationType& object) { m_station.set(object); }
 
     bool hasSignalPath() const { return m_signalPath.isPresent(); }
-    /// The signal path, tag "Path" when read, "SignalPath" when written; null when absent.
+    /// The signal path, tag "Path" on reading, "SignalPath" on writing; null when absent.
     const XmlSignalPathType* signalPath() const { return m_signalPath.get(); }
     void setSignalPath(const XmlSignalPathType& object) { m_signalPath.set(object); }
 
@@ -76,10 +74,9 @@ private:
     OptionalChild<XmlDeviceType> m_device;
 };
 
-/// The command to delete planning objects of one kind, one by its name or all:
-/// `<Delete><Emitter><Name>TX 1</Name></Emitter><Reference>42</Reference></Delete>`.
-///
-/// Exactly one kind, then the reference; all kinds held are written, in the order of the accessors below.
+/// The command to delete one or all planning objects of one kind, followed by the reference; all kinds set are written,
+/// in the order of the accessors: `<Delete><Emitter><Name>TX 1</Name></Emitter><Reference>42</Reference></Delete>`.
+/// Reading resets the command first, including its envelope.
 class ARVXML_EXPORT XmlCmdDelete : public XmlChoiceCommand {
 public:
     XmlCmdDelete();

@@ -11,15 +11,13 @@
 
 namespace ArvXml {
 
-/// What kind of device a device is: `<DeviceCategory>DF</DeviceCategory>`.
-///
-/// The texts stand at the enumerators; another text is the reader error "Illegal enum value.". Undefined is
-/// reported as "Illegal Device Category.".
+/// The category of a device: `<DeviceCategory>DF</DeviceCategory>`. See the enumerators for the texts. Other texts are
+/// the reader error "Illegal enum value.". Problem: "Illegal Device Category.".
 class ARVXML_EXPORT XmlDeviceCategoryType : public XmlEnumeration {
 public:
-    /// The categories, with their texts. The order is the protocol's.
+    /// The categories, with their texts, in the order of the protocol.
     enum Category : int {
-        Undefined = 0,       ///< None chosen.
+        Undefined = 0,       ///< Not set.
         Receiver = 1,        ///< "Receiver"
         PassiveAntennas = 2, ///< "PassiveAntennas"
         Cable = 3,           ///< "Cable"
@@ -38,8 +36,8 @@ private:
     const EnumerationRules& rules() const override;
 };
 
-/// A piece of equipment on a signal path, by the frequencies at which it is characterised and its
-/// values at them:
+/// A device on a signal path, characterised by its values at given frequencies. Category, name and frequencies are
+/// required, in this order. The optional lists follow, written in the order of the accessors.
 /// \code{.xml}
 /// <Device version="1.0">
 ///     <DeviceCategory>Cable</DeviceCategory>
@@ -48,18 +46,10 @@ private:
 ///     <Attenuations version="1.0">...</Attenuations>
 /// </Device>
 /// \endcode
-/// Category, name and frequencies are required, in this order. The optional lists follow, written in the order of
-/// the accessors below. They must, on reading, form one of five sets:
-/// - Noises
-/// - Noises, KFactors, Gains, DBM
-/// - Noises, KFactors, Degrees, DBM
-/// - KFactors
-/// - Attenuations
-///
-/// The two sets of four are read only with KFactors last (Noises, Gains, DBM, KFactors), but written
-/// with KFactors second: the library refuses what it wrote of them itself. Judging and writing do not
-/// look at the set, and nothing ties it to the category. Reading reuses the lists held and leaves those that
-/// the document lacks; no list is removed but by reset(). Another version than "1.0" is refused while reading.
+/// On reading, the lists must form one of five sets: Noises; Noises, KFactors, Gains, DBM; Noises, KFactors, Degrees,
+/// DBM; KFactors; Attenuations. The sets of four are read only with KFactors last (Noises, Gains, DBM, KFactors) but
+/// written with KFactors second, so they cannot be read back. Validation and writing do not check the set, which is
+/// independent of the category. Reading reuses lists and keeps those not in the document; only reset() removes a list.
 class ARVXML_EXPORT XmlDeviceType : public XmlVersionedComposite {
 public:
     XmlDeviceType();
@@ -126,7 +116,7 @@ class ARVXML_EXPORT XmlDeviceListType : public XmlList {
 public:
     XmlDeviceListType();
 
-    /// The devices, owned by the list. The setter replaces them by copies of the given ones.
+    /// The devices, owned by the list. The setter replaces them with copies.
     const QList<XmlDeviceType*>& deviceList() const { return m_items.items(); }
     void setDeviceList(const QList<XmlDeviceType*>& devices) { m_items.set(devices); }
 
@@ -136,21 +126,16 @@ private:
     OwnedList<XmlDeviceType> m_items;
 };
 
-/// A length for a key, both required, in this order. It is read as
+/// A length with a key, both required, in this order. If the value is read first, the key is refused. Read as:
 /// \code{.xml}
 /// <Map version="1.0">
 ///     <Key>3</Key>
 ///     <Value version="1.0" unit="m">12</Value>
 /// </Map>
 /// \endcode
-/// A value before the key is read, but then the key is refused.
-///
-/// It is written with the value twice, under "Key" and under "Value"; the key is never written. Read back, the length
-/// is the key. The key does not count for isValid(), though syntaxError() reports it. Another version than "1.0" is
-/// refused while reading.
-///
-/// reset() removes key and value: their getters then return null, nothing of them is written, and the
-/// entry is invalid without a problem being told, until they are set or read again.
+/// The value is written twice, as "Key" and as "Value", and the key never: read back, the length is the key. isValid()
+/// ignores the key, but syntaxError() reports it. After reset() there is neither key nor value: nothing is written, and
+/// the entry is invalid without a reported problem until both are set or read again.
 class ARVXML_EXPORT XmlMapType : public XmlVersionedComposite {
 public:
     XmlMapType();
@@ -173,12 +158,12 @@ private:
 };
 
 /// Lengths by key, for antenna heights and cable lengths, at least one ("Too few mappings (min. 1)"). Read as
-/// `<AntHgtMap version="1.0"><Map version="1.0">...</Map></AntHgtMap>`; what is written is told at XmlMapType.
+/// `<AntHgtMap version="1.0"><Map version="1.0">...</Map></AntHgtMap>`; see XmlMapType for what is written.
 class ARVXML_EXPORT XmlMapListType : public XmlList {
 public:
     XmlMapListType();
 
-    /// The entries, owned by the list. The setter replaces them by copies of the given ones.
+    /// The entries, owned by the list. The setter replaces them with copies.
     const QList<XmlMapType*>& mapList() const { return m_items.items(); }
     void setMapList(const QList<XmlMapType*>& entries) { m_items.set(entries); }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 /// \file
-/// What every element can do.
+/// The interface and the bases of all elements.
 
 #include "arvxml/export.h"
 #include "arvxml/ownership.h"
@@ -17,54 +17,43 @@ namespace ArvXml {
 
 class ElementReader;
 
-/// What every element of the protocol can do.
+/// The interface of all elements of the protocol. An element does not know its tag: its owner passes the tag, so that
+/// one type serves several tags. No operation throws on bad input.
 ///
-/// Getters of children return pointers. One to a child that is always present is good as long as its
-/// owner lives; one to an optional child until the child is removed (by reset(), or by assigning an
-/// element that has none), or replaced by reading where its class says so; one to an item of a list until
-/// the list is set, read, reset or assigned to. After a move, an element is fit for reset(), assignment
-/// and destruction.
+/// Getters of children return pointers. A pointer to a child that is always present is valid as long as its owner. A
+/// pointer to an optional child is valid until the child is removed (by reset(), or by assigning an element without
+/// one) or, where its class says so, replaced by reading. A pointer to a list item is valid until the list is set,
+/// read, reset or assigned to. A moved-from element can be reset, assigned to and destroyed.
 ///
-/// Elements can be used by several threads: const operations on one that nobody changes meanwhile, and any operation on
-/// one that no other thread uses. They can be used to the last moment of a program, by the destructors of globals and
-/// by threads that outlive main(). When memory runs out, std::bad_alloc leaves an element that can be used, assigned
-/// to and destroyed.
-///
-/// An element does not know the tag under which it stands: whoever holds it passes the tag, so one
-/// type serves under several tags. No operation throws for bad input.
+/// Threads may call const operations on an element that nobody changes meanwhile, and any operation on an element that
+/// no other thread uses. Elements work until the very end of a program, in destructors of globals and in threads that
+/// outlive main(). If memory runs out, std::bad_alloc leaves an element that can be used, assigned to and destroyed.
 class ARVXML_EXPORT IXmlElement {
 public:
     virtual ~IXmlElement();
 
-    /// Reads the element from \a reader, which stands on the element's start tag, up to and
-    /// including the end tag \a tagName (a local name, without a prefix).
+    /// Reads the element from \a reader, positioned at its start tag, up to and including the end tag \a tagName (a
+    /// local name without prefix). Unless its class says so, reading does not reset the element: what the document does
+    /// not contain is unchanged, except for the version. At a token other than a start tag, elements with attributes,
+    /// and others whose class says so, raise "Parse error (wrong position)"; all others continue with the next token.
     ///
-    /// A failure ends the whole read; ask `reader.hasError()` and `reader.errorString()`. The element
-    /// raises it as "in CLASS (line L, column C): MESSAGE."; what is no XML at all, or holds an element
-    /// where a text is read whole, the reader raises itself in its own words. What was read until then is
-    /// kept. Values out of range are no failure here; see isValid().
-    ///
-    /// Reading does not reset the element, but where its class says so: what the document does not mention stays as
-    /// it was, but for the version.
-    ///
-    /// On another token than a start tag, elements with attributes, and others whose class says so, raise
-    /// "Parse error (wrong position)"; the rest go on with the next token.
+    /// A failure ends the whole read; see `reader.hasError()` and `reader.errorString()`. The element raises it as "in
+    /// CLASS (line L, column C): MESSAGE.". For malformed XML, or an element inside a text that is read whole, the
+    /// reader raises its own error. What was read before is kept. Values out of range are not a failure; see isValid().
     virtual void processXml(QXmlStreamReader& reader, const QString& tagName) = 0;
 
-    /// Writes the element under the tag \a tagName. What is held is written, valid or not.
+    /// Writes the element with the tag \a tagName. The content is written whether it is valid or not.
     virtual void produceXml(QXmlStreamWriter& writer, const QString& tagName) const = 0;
 
-    /// Whether the content is acceptable to the protocol.
+    /// Whether the content conforms to the protocol.
     virtual bool isValid() const = 0;
 
-    /// What is wrong with the content, one line a problem, the problems of an element framed by its
-    /// class; empty when nothing is. It agrees with isValid() but where a class says so, and for a
-    /// number that is not one (NaN): that may be invalid without a problem being told.
-    ///
-    /// Not const, since the text is kept in the element.
+    /// The problems of the content, one per line, those of each element framed by its class name; empty if there are
+    /// none. Agrees with isValid() except where a class says so, and for NaN, which may be invalid without being
+    /// reported. Not const, since the element stores the text.
     virtual QString syntaxError() = 0;
 
-    /// Returns to the state of a new object, as far as the class says nothing else.
+    /// Resets the element to the state of a new one, unless its class says otherwise.
     virtual void reset() = 0;
 
 protected:
@@ -73,31 +62,30 @@ protected:
     IXmlElement& operator=(const IXmlElement&) = default;
 };
 
-/// The base of every element: its class name, as messages show it, and the problems found by the
-/// last syntaxError(), which reset() forgets.
+/// The base of all elements: the class name in messages, and problems of the last syntaxError(), cleared by reset().
 class ARVXML_EXPORT XmlElementBase : public IXmlElement {
 public:
-    /// An element that messages call \a className.
+    /// Constructs an element that messages call \a className.
     explicit XmlElementBase(const QString& className);
-    /// Copies take over the class name and the problems found.
+    /// Copies the class name and the problems.
     XmlElementBase(const XmlElementBase& other) noexcept;
     ~XmlElementBase() override;
-    /// Takes over the class name and the problems found.
+    /// Copies the class name and the problems.
     XmlElementBase& operator=(const XmlElementBase& other) noexcept;
 
     void reset() override;
 
 protected:
-    /// The class name that messages show. It is not the name of the C++ class everywhere.
+    /// The class name shown in messages; not always the name of the C++ class.
     const QString& classname() const { return m_className; }
 
     /// Raises "in CLASS (line L, column C): MESSAGE." on \a reader, in place of any earlier error.
     void setReaderError(QXmlStreamReader& reader, const QString& message);
 
-    /// Adds a problem on a line of its own; an empty text adds nothing.
+    /// Adds a problem on its own line; an empty text adds nothing.
     void addSyntaxError(const QString& text);
     void clearSyntaxError();
-    /// The problems collected, framed by the class name; empty when there are none.
+    /// The collected problems, framed by the class name; empty if there are none.
     QString mySyntaxError();
 
 private:
@@ -107,11 +95,11 @@ private:
     QString m_syntaxError;
 };
 
-/// Shows an element on one line as the XML that it writes, valid or not. An element does not know its tag: it stands
-/// under the name by which messages call its class, as in `<XmlObjNameType>Site 1</XmlObjNameType>`.
+/// Prints the XML of an element on one line, valid or not. Since the element does not know its tag, the class name
+/// shown in messages is used: `<XmlObjNameType>Site 1</XmlObjNameType>`.
 ARVXML_EXPORT QDebug operator<<(QDebug debug, const XmlElementBase& element);
 
-/// The base of all elements of the library: syntaxError() is told once.
+/// The base of all elements of the library; implements syntaxError().
 class ARVXML_EXPORT XmlElement : public XmlElementBase {
 public:
     QString syntaxError() override;
@@ -119,18 +107,16 @@ public:
 protected:
     using XmlElementBase::XmlElementBase;
 
-    /// Adds the element's problems, and those of its children.
+    /// Adds the problems of the element and of its children.
     virtual void addErrors() = 0;
 };
 
-/// The version of a versioned element: attribute "version", by default and only supported "1.0".
-///
-/// Some elements refuse another version while reading ("Version not supported: 2.0"); in the others
-/// it is read and reported by isValid() and syntaxError() (`Version "2.0" not supported`). An attribute that is
-/// missing or empty stands for "1.0".
+/// The version of a versioned element: attribute "version"; only "1.0", the default, is supported. Some elements refuse
+/// other versions on reading ("Version not supported: 2.0"); the others read them, and isValid() and syntaxError()
+/// report them (`Version "2.0" not supported`). A missing or empty attribute means "1.0".
 class ARVXML_EXPORT XmlVersioned {
 public:
-    /// The version; stored without checking it.
+    /// The version; the setter does not check it.
     QString version() const { return m_version; }
     void setVersion(const QString& version) { m_version = version; }
 

@@ -11,11 +11,9 @@
 
 namespace ArvXml {
 
-/// The precision of bearings in whole degrees: `<DFprecision version="1.0" unit="°">3</DFprecision>`.
-///
-/// Default -2; valid from -1 on ("XmlDfPrecisionType: Illegal precision."), with the unit "°"
-/// ("XmlDfPrecisionType: Illegal unit."). The unit is required on reading and cannot be set otherwise. A
-/// text that is no decimal integer is "Illegal value (must be numeric)" and leaves -2.
+/// The precision of bearings in whole degrees: `<DFprecision version="1.0" unit="°">3</DFprecision>`. Default -2;
+/// valid from -1 ("XmlDfPrecisionType: Illegal precision.") with the unit "°" ("XmlDfPrecisionType: Illegal unit."),
+/// which has no setter. A text that is not a decimal integer is "Illegal value (must be numeric)" and leaves -2.
 class ARVXML_EXPORT XmlDfPrecisionType : public XmlReadUnitQuantity {
 public:
     XmlDfPrecisionType();
@@ -28,8 +26,7 @@ private:
     const QuantityRules& rules() const override;
 };
 
-/// The base of the named sites of a plan: a name and a position. A position before the name is read, but then the
-/// name is refused. Another version than "1.0" is refused while reading.
+/// The base of sites: a name, a position and more, in this order. If the position is read first, the name is refused.
 class ARVXML_EXPORT XmlSite : public XmlVersionedComposite {
 public:
     /// The name, tag "Name".
@@ -69,7 +66,7 @@ private:
     XmlTxParamType m_txParam;
 };
 
-/// A direction finder; the children come in this order, the interlink optional:
+/// A direction finder; with the optional interlink, what is written cannot be read back (see XmlStationInterlinkType).
 /// \code{.xml}
 /// <DF version="1.0">
 ///     <Name>DF 1</Name>
@@ -79,7 +76,6 @@ private:
 ///     <StationInterlink version="1.0">...</StationInterlink>
 /// </DF>
 /// \endcode
-/// What the library writes with an interlink cannot be read back; see XmlStationInterlinkType.
 class ARVXML_EXPORT XmlDfType : public XmlSite {
 public:
     XmlDfType();
@@ -93,7 +89,7 @@ public:
     void setDfPrecision(const XmlDfPrecisionType& precision) { m_dfPrecision = precision; }
 
     bool hasInterlink() const { return m_interlink.isPresent(); }
-    /// The link to the network, tag "StationInterlink"; null when absent. Reading replaces the one held.
+    /// The link to the network, tag "StationInterlink"; null when absent. Reading replaces it.
     const XmlStationInterlinkType* interlink() const { return m_interlink.get(); }
     void setInterlink(const XmlStationInterlinkType& interlink) { m_interlink.set(interlink); }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 /// \file
-/// The base of the elements whose content is one text out of a list.
+/// The base of the elements whose content is one of several texts.
 
 #include "arvxml/element.h"
 
@@ -9,11 +9,9 @@ namespace ArvXml {
 
 struct EnumerationRules;
 
-/// The base of the elements whose content is one text out of a list.
-///
-/// Value 0 means that none is chosen; it is never read, makes the element invalid, and is written as "UNDEFINED", as
-/// is every value outside the list, which is valid all the same. Texts are compared exactly: case and blanks count.
-/// Each piece of text is taken for itself (a comment cuts a text in two); an element without text keeps its value.
+/// The base of the elements whose content is one of several texts. Value 0 (undefined) is never read, invalid, and
+/// written as "UNDEFINED"; unlisted values are written the same way but valid. Texts are matched exactly, including
+/// case and spaces. Each piece of text is read on its own (comments split it); without text the value is kept.
 class ARVXML_EXPORT XmlEnumeration : public XmlElement {
 public:
     void processXml(QXmlStreamReader& reader, const QString& tagName) override;

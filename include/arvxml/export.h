@@ -1,12 +1,12 @@
 #pragma once
 
 /// \file
-/// What the shared library shows to its users.
+/// The export macro of the library.
 
 #include <QtCore/qglobal.h>
 
-/// Marks what the shared library shows to its users; everything else in it is hidden. Programs that link a static one
-/// are compiled with ARVXML_STATIC, which CMake and pkg-config tell them.
+/// Marks the symbols that the shared library exports; all others are hidden. Programs that link the static library are
+/// compiled with ARVXML_STATIC, which CMake and pkg-config define.
 #if defined(ARVXML_STATIC)
 #define ARVXML_EXPORT
 #elif defined(ARVXML_BUILDING_LIBRARY)

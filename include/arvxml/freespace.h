@@ -1,17 +1,15 @@
 #pragma once
 
 /// \file
-/// The parameter of free space.
+/// The parameter of the free-space model.
 
 #include "arvxml/parameterset.h"
 
 namespace ArvXml {
 
-/// The parameter of free space, optional:
-/// `<PropertiesFreespace><K-factor>1.3333</K-factor></PropertiesFreespace>`.
-///
-/// The K-factor may be repeated, and the last one counts. Reading does not reset the set: what the document
-/// does not mention stays. Problem: "K-factor out of bounds".
+/// The parameter of the free-space model, optional:
+/// `<PropertiesFreespace><K-factor>1.3333</K-factor></PropertiesFreespace>`. Reading does not reset the set. The
+/// K-factor may be repeated; the last one counts. Problem: "K-factor out of bounds".
 class ARVXML_EXPORT XmlPropModelFSType : public XmlParameterSet {
 public:
     XmlPropModelFSType();

@@ -1,7 +1,7 @@
 #pragma once
 
 /// \file
-/// Positions, and the two shapes of areas: rectangles and polygons.
+/// Positions, rectangles and polygons.
 
 #include "arvxml/composite.h"
 
@@ -9,16 +9,15 @@
 
 namespace ArvXml {
 
-/// A position in degrees, east and north positive:
+/// A position in degrees, east and north positive. Both children are required, in the order shown. Default -999.999
+/// (invalid); valid from -180.0 to 180.0 ("Longitude out of bounds") and from -90.0 to 90.0 ("Latitude out of bounds").
+/// A text that is not a number reads as 0.0 without an error.
 /// \code{.xml}
 /// <Position version="1.0">
 ///     <Longitude>8.500000</Longitude>
 ///     <Latitude>47.400000</Latitude>
 /// </Position>
 /// \endcode
-/// Both are required, in this order, and -999.999 (invalid) by default. Valid from -180.0 to 180.0
-/// ("Longitude out of bounds") and -90.0 to 90.0 ("Latitude out of bounds"). A text that is no number
-/// reads as 0.0 without an error. Another version than "1.0" is refused while reading.
 class ARVXML_EXPORT XmlCoordinateType : public XmlVersionedComposite {
 public:
     XmlCoordinateType();
@@ -43,16 +42,15 @@ private:
     double m_latitude;
 };
 
-/// A numbered vertex of a polygon:
+/// A numbered vertex of a polygon. Attribute "number" is required ("Missing attribute: "number"", "Illegal attribute
+/// value (must be numeric)"), -9999 by default, and valid from 0 ("(XmlNumCoordType) Number attribute too small (min.
+/// 0)"). Messages call the class "XmlCoordinateType".
 /// \code{.xml}
 /// <Vertex version="1.0" number="0">
 ///     <Longitude>8.500000</Longitude>
 ///     <Latitude>47.400000</Latitude>
 /// </Vertex>
 /// \endcode
-/// The attribute "number" is required ("Missing attribute: "number"", "Illegal attribute value (must
-/// be numeric)"); -9999 by default, valid from 0 on ("(XmlNumCoordType) Number attribute too small
-/// (min. 0)"). Messages call the class "XmlCoordinateType".
 class ARVXML_EXPORT XmlNumCoordType : public XmlCoordinateType {
 public:
     XmlNumCoordType();
@@ -73,7 +71,7 @@ private:
     int m_number;
 };
 
-/// A rectangle given by two corners, both required, in this order:
+/// A rectangle given by two corners, both required, in the order shown. Their relative position is not checked.
 /// \code{.xml}
 /// <AreaRect version="1.0">
 ///     <UpperLeft version="1.0">
@@ -86,8 +84,6 @@ private:
 ///     </LowerRight>
 /// </AreaRect>
 /// \endcode
-/// How the corners lie to each other is not checked. Another version than "1.0" is refused while
-/// reading.
 class ARVXML_EXPORT XmlAreaRectType : public XmlVersionedComposite {
 public:
     XmlAreaRectType();
@@ -107,7 +103,8 @@ private:
     XmlCoordinateType m_lowerRight;
 };
 
-/// A polygon of numbered vertices, held and written in ascending order of their numbers:
+/// A polygon of vertices, stored and written by ascending number. Reading keeps existing vertices and requires three in
+/// total, in any order. Validation requires none, but strictly ascending numbers from 0 or more ("Illegal numbering.").
 /// \code{.xml}
 /// <AreaPolygon version="1.0">
 ///     <Vertex version="1.0" number="0"><Longitude>8.500000</Longitude><Latitude>47.400000</Latitude></Vertex>
@@ -115,17 +112,13 @@ private:
 ///     <Vertex version="1.0" number="2"><Longitude>8.600000</Longitude><Latitude>47.300000</Latitude></Vertex>
 /// </AreaPolygon>
 /// \endcode
-/// Reading requires three vertices in any order; vertices held before are kept, and count. Judging requires
-/// none, but numbers that ascend without repetition from 0 or more ("Illegal numbering."). Another
-/// version than "1.0" is refused while reading.
 class ARVXML_EXPORT XmlAreaPolyType : public XmlVersionedComposite {
 public:
     XmlAreaPolyType();
 
-    /// The vertices in order; they belong to the polygon. Changing a number does not move a vertex.
+    /// The vertices in order, owned by the polygon. Changing a number does not move a vertex.
     QVector<XmlNumCoordType*> vertices() const { return m_vertices.items(); }
-    /// Replaces the vertices by copies of the given ones, each put in its place by its number;
-    /// vertices of the same number keep their order.
+    /// Replaces the vertices with copies, sorted by number; vertices with the same number keep their order.
     void setVertices(const QVector<XmlNumCoordType*>& vertices);
 
     void processXml(QXmlStreamReader& reader, const QString& tagName) override;

@@ -9,7 +9,10 @@
 
 namespace ArvXml {
 
-/// The result of a calculation over an area:
+/// The result of a calculation over an area. The parameters repeat the order, in a wrapper with its tag. The picture is
+/// a file of the service, transferred by name only. Valid with a type ("Type not defined"), the parameters of that type
+/// and no others ("Type is 'CEP' but no CEP parameters or other parameters found"), and a file name ("Screenshot path
+/// not set"). A type outside the enumerators is invalid without a reported problem.
 /// \code{.xml}
 /// <GridResult type="CEP">
 ///     <CEP>
@@ -21,22 +24,14 @@ namespace ArvXml {
 ///     </CEP>
 /// </GridResult>
 /// \endcode
-/// The parameters repeat the order, in a wrapper with its tag; the picture is a file of the service's, of which only
-/// the name is carried.
-///
-/// Reading never succeeds. In a complete document it stops behind "Parameter": the parameters are read,
-/// but are told the tag of the wrapper ("CEP") as theirs, and so refuse the end tag of "Parameter"
-/// ("Unexpected token "EndElement": Parameter", in the class of the parameters). The type and the
-/// parameters read are kept, in place of those held of that type; the file name is not reached.
-///
-/// Valid with a type ("Type not defined"), the parameters of that type and no others ("Type is 'CEP' but
-/// no CEP parameters or other parameters found"), and a file name ("Screenshot path not set"). A type
-/// beyond the known ones is invalid without a problem being told.
+/// Reading never succeeds. In a complete document it stops after "Parameter": the parameters are read with the tag of
+/// the wrapper ("CEP") as theirs, and so refuse the end tag of "Parameter" ("Unexpected token "EndElement": Parameter",
+/// in their class). Type and parameters are kept, replacing those of that type; the file name is not reached.
 class ARVXML_EXPORT XmlGridResultType : public XmlComposite {
 public:
-    /// What was calculated, with the texts of the attribute and the wrapper.
+    /// The types of calculations, with the texts of the attribute and the wrapper.
     enum ResultType : int {
-        ResultUndefined = 0,     ///< Not told.
+        ResultUndefined = 0,     ///< Not set.
         ResultFindSites = 1,     ///< "FindSites", wrapper "FindPossibleSites"
         ResultCep = 2,           ///< "CEP", wrapper "CEP"
         ResultDetectProb = 3,    ///< "DetectProb", wrapper "DetectionProbability"
@@ -46,8 +41,8 @@ public:
 
     XmlGridResultType();
 
-    /// Attribute "type"; an unknown text is the reader error "Illegal attribute value in "type"". An
-    /// undefined type is written as "UNDEFINED", which no reader accepts.
+    /// Attribute "type"; other texts are the reader error "Illegal attribute value in "type"". An undefined type is
+    /// written as "UNDEFINED", which no reader accepts.
     ResultType type() const { return m_type; }
     void setType(ResultType type) { m_type = type; }
 
@@ -76,7 +71,7 @@ public:
     bool hasBestSensor() const { return m_bestSensor.isPresent(); }
     void setBestSensor(const XmlBestSensorType& parameters) { m_bestSensor.set(parameters); }
 
-    /// The name of the picture's file, tag "ScreenshotFilename"; it is written into every wrapper.
+    /// The name of the picture file, tag "ScreenshotFilename"; written in every wrapper.
     const QString& screenshotFilename() const { return m_screenshotFilename; }
     void setScreenshotFilename(const QString& filename) { m_screenshotFilename = filename; }
 
@@ -98,28 +93,24 @@ private:
     QString m_screenshotFilename;
 };
 
-/// The range of the values of a result grid:
-/// `<Values version="1.0" unit="dB"><Min>-12.5</Min><Max>40</Max></Values>`, both tags required, in
-/// this order, the numbers written with six significant digits. An empty tag leaves the number as it
-/// was; which number is the greater is not judged.
-///
-/// White space between the tags is refused on reading ("Unexpected characters"): an indented document
-/// cannot be read here. The unit must not be empty ("Missing mandatory attributes"; an empty
-/// version is refused as unsupported); an attribute that is absent leaves what the element holds. Another version than
-/// "1.0" is refused while reading. reset() touches the two numbers only.
+/// The range of the values of a result grid: `<Values version="1.0" unit="dB"><Min>-12.5</Min><Max>40</Max></Values>`.
+/// Both tags are required, in this order. The numbers are written with six significant digits and not compared; an
+/// empty tag leaves its number unchanged. White space between the tags is refused ("Unexpected characters"): an
+/// indented document cannot be read. The unit must not be empty ("Missing mandatory attributes"). Versions other than
+/// "1.0" are refused, even an empty one. A missing attribute keeps its value. reset() changes only the numbers.
 class ARVXML_EXPORT XmlGridValuesType : public XmlComposite, public XmlVersioned {
 public:
     XmlGridValuesType();
 
-    /// The unit of the values, attribute "unit": a free text, empty (and invalid) by default.
+    /// The unit of the values, attribute "unit": any text, empty (and invalid) by default.
     const QString& unit() const { return m_unit; }
     void setUnit(const QString& unit) { m_unit = unit; }
 
-    /// The smallest value, tag "Min"; 0.0 by default.
+    /// The minimum, tag "Min"; 0.0 by default.
     double min() const { return m_min; }
     void setMin(double min) { m_min = min; }
 
-    /// The greatest value, tag "Max"; 0.0 by default.
+    /// The maximum, tag "Max"; 0.0 by default.
     double max() const { return m_max; }
     void setMax(double max) { m_max = max; }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 /// \file
-/// Results that the service delivers on its own.
+/// Unsolicited results of the service.
 
 #include "arvxml/composite.h"
 #include "arvxml/emitters.h"
@@ -11,12 +11,10 @@
 
 namespace ArvXml {
 
-/// A planning object as a result: `<Station><Emitter version="1.0">...</Emitter></Station>`, where the
-/// inner element is "Station", "Emitter", "Receiver" or "DF".
-///
-/// Reading always ends with an error at the element's own end tag ("Unexpected token "EndElement":
-/// Station"); the object read until then is kept, in place of one of its kind held before. Setters fill the slot of
-/// their kind and never clear another; all held are written. How many are held is not judged: none is valid.
+/// A planning object as a result: `<Station><Emitter version="1.0">...</Emitter></Station>`, where the inner element is
+/// "Station", "Emitter", "Receiver" or "DF". Reading always ends with an error at the element's own end tag
+/// ("Unexpected token "EndElement": Station"); the object read is kept, replacing one of its kind. Setting one object
+/// never removes another; all are written. Their number is not checked; even none is valid.
 class ARVXML_EXPORT XmlResultObjectType : public XmlComposite {
 public:
     XmlResultObjectType();
@@ -50,12 +48,9 @@ private:
     OptionalChild<XmlDfType> m_df;
 };
 
-/// A result that the service delivers on its own:
-/// `<Interactive><InterlinkResult>...</InterlinkResult></Interactive>`, exactly one of "GridResult",
-/// "InterlinkResult" and "Station" ("Illegal number of elements").
-///
-/// A "Station" always ends the read with an error, see XmlResultObjectType, and a "GridResult" does, see
-/// XmlGridResultType; what was read is kept, in place of what was held of its kind.
+/// An unsolicited result of the service: `<Interactive><InterlinkResult>...</InterlinkResult></Interactive>`, exactly
+/// one of "GridResult", "InterlinkResult" and "Station" ("Illegal number of elements"). A "Station" or "GridResult"
+/// always ends the read with an error (see their classes); what was read is kept, replacing what was held of its kind.
 class ARVXML_EXPORT XmlInteractRespType : public XmlComposite {
 public:
     XmlInteractRespType();

@@ -8,7 +8,9 @@
 
 namespace ArvXml {
 
-/// The result of interlink planning, the file name optional:
+/// The result of interlink planning, the file name optional. On reading, parameters precede the "Result" with the text
+/// ("Result" may be left and entered again before that); a file name without text is refused at the end tag. Valid with
+/// valid parameters and text ("Missing Result Text").
 /// \code{.xml}
 /// <InterlinkResult>
 ///     <Parameters>
@@ -21,22 +23,20 @@ namespace ArvXml {
 ///     </Result>
 /// </InterlinkResult>
 /// \endcode
-/// On reading, the parameters come before the "Result" with the text, and a file name without a text is
-/// refused at the end tag. Valid with valid parameters and a text ("Missing Result Text").
 class ARVXML_EXPORT XmlInterlinkResultType : public XmlComposite {
 public:
     XmlInterlinkResultType();
 
-    /// The order's parameters, repeated; tag "Parameters".
+    /// The parameters of the order, repeated in the result; tag "Parameters".
     const XmlInterlinkPlanningType* parameters() const { return &m_parameters; }
     void setParameters(const XmlInterlinkPlanningType& parameters) { m_parameters = parameters; }
 
-    /// What came out, tag "Text": at least one character.
+    /// The result text, tag "Text": at least one character.
     const QString& resultText() const { return m_resultText; }
     void setResultText(const QString& text) { m_resultText = text; }
 
     bool hasScreenshotFilename() const { return !m_screenshotFilename.isEmpty(); }
-    /// The name of the picture's file, tag "ScreenshotFilename"; empty for none.
+    /// The name of the picture file, tag "ScreenshotFilename"; empty if there is none.
     const QString& screenshotFilename() const { return m_screenshotFilename; }
     void setScreenshotFilename(const QString& filename) { m_screenshotFilename = filename; }
 

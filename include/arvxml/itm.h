@@ -7,7 +7,9 @@
 
 namespace ArvXml {
 
-/// The parameters of the Irregular Terrain Model, all optional:
+/// The parameters of the Irregular Terrain Model, all optional. Texts must match those of the enumerators exactly
+/// ("Illegal value for "Pol""). Value 0 is written as "UNDEFINED", not read, and invalid; values outside the
+/// enumerators are written the same way but valid. Numbers out of range are reported like "RRI out of bounds".
 /// \code{.xml}
 /// <PropertiesITM>
 ///     <RRI>300.0000</RRI>
@@ -18,22 +20,18 @@ namespace ArvXml {
 ///     <Time>0.50</Time>
 /// </PropertiesITM>
 /// \endcode
-/// Each parameter comes at most once, in this order. Choices are read exactly by the texts at their enumerators
-/// ("Illegal value for "Pol""). Value 0 is written "UNDEFINED", not read, and invalid; a value outside
-/// is written so, too, but valid. Numbers out of range read "RRI out of bounds", and so on. Reading resets the set
-/// first.
 class ARVXML_EXPORT XmlPropModelITMType : public XmlParameterSet {
 public:
     /// The polarisations, with their texts.
     enum Polarisation : int {
-        PolarisationUndefined = 0, ///< None chosen.
+        PolarisationUndefined = 0, ///< Not set.
         PolarisationH = 1,         ///< "H"
         PolarisationV = 2,         ///< "V"
     };
 
     /// The radio climates, with their texts.
     enum Climate : int {
-        ClimateUndefined = 0,              ///< None chosen.
+        ClimateUndefined = 0,              ///< Not set.
         ClimateEquatorial = 1,             ///< "Equatorial"
         ClimateContinentalSubtropical = 2, ///< "Continental Subtropical"
         ClimateMaritimeTropical = 3,       ///< "Maritime Tropical"
@@ -43,9 +41,9 @@ public:
         ClimateMaritimeTemperateSea = 7,   ///< "Maritime Temperate, Sea"
     };
 
-    /// The kinds of ground, with their texts as read. Which is written, the climate says; see surface().
+    /// The kinds of ground, with their texts on reading. On writing the climate selects the text; see surface().
     enum Surface : int {
-        SurfaceUndefined = 0,     ///< None chosen.
+        SurfaceUndefined = 0,     ///< Not set.
         SurfaceAverageGround = 1, ///< "Average Ground"
         SurfacePoorGround = 2,    ///< "Poor Ground"
         SurfaceGoodGround = 3,    ///< "Good Ground"
@@ -72,8 +70,8 @@ public:
     void setClimate(Climate value) { setValue(ClimateRow, value); }
     bool hasClimate() const { return isPresent(ClimateRow); }
 
-    /// The ground, tag "Surface" ("Illegal surface"). The text written is chosen by the value of the climate:
-    /// climate 2 writes "Poor Ground", whatever the ground is, and climates 0, 6 and 7 write "UNDEFINED".
+    /// The ground, tag "Surface" ("Illegal surface"). The value of the climate selects the text written: climate 2
+    /// writes "Poor Ground", whatever the ground, and climates 0, 6 and 7 write "UNDEFINED".
     Surface surface() { return choiceValue<Surface>(SurfaceRow); }
     Surface surface() const { return choiceValue<Surface>(SurfaceRow); }
     void setSurface(Surface value) { setValue(SurfaceRow, value); }

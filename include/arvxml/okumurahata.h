@@ -7,7 +7,10 @@
 
 namespace ArvXml {
 
-/// The parameters of the Okumura-Hata model, all optional. It is read as
+/// The parameters of the Okumura-Hata model, all optional. The K-factor is written with the tag of the set itself,
+/// which the reader refuses: such a set cannot be read back. Texts must match those of the enumerators exactly
+/// ("Illegal value for "AreaType""). Value 0 is written as "UNDEFINED", not read, and invalid; values outside the
+/// enumerators are written the same way but valid. Read as:
 /// \code{.xml}
 /// <PropertiesOkumura>
 ///     <K-factor>1.3333</K-factor>
@@ -15,15 +18,11 @@ namespace ArvXml {
 ///     <CitySize>Large</CitySize>
 /// </PropertiesOkumura>
 /// \endcode
-/// The K-factor is written under the tag of the set itself, which the reader refuses: a set with a K-factor
-/// cannot be read back. Each parameter comes at most once, in this order. Choices are read exactly by the
-/// texts at their enumerators ("Illegal value for "AreaType""). Value 0 is written "UNDEFINED", not
-/// read, and invalid; a value outside is written so, too, but valid. Reading resets the set first.
 class ARVXML_EXPORT XmlPropModelHataType : public XmlParameterSet {
 public:
     /// The kinds of areas, with their texts.
     enum Area : int {
-        AreaUndefined = 0, ///< None chosen.
+        AreaUndefined = 0, ///< Not set.
         AreaUrban = 1,     ///< "Urban"
         AreaSuburban = 2,  ///< "Suburban"
         AreaOpenRural = 3, ///< "Open rural"
@@ -31,7 +30,7 @@ public:
 
     /// The sizes of cities, with their texts.
     enum Size : int {
-        SizeUndefined = 0, ///< None chosen.
+        SizeUndefined = 0, ///< Not set.
         SizeSmall = 1,     ///< "Small"
         SizeMedium = 2,    ///< "Medium"
         SizeLarge = 3,     ///< "Large"
@@ -39,8 +38,8 @@ public:
 
     XmlPropModelHataType();
 
-    /// The effective earth radius factor, tag "K-factor" when read ("Kfactor out of bounds"; raised on
-    /// reading: "Illegal Kfactor value (must be numeric)"): 0.1 to 5.0, default 1.3333.
+    /// The effective earth radius factor, tag "K-factor" on reading: 0.1 to 5.0 ("Kfactor out of bounds"; reader error
+    /// "Illegal Kfactor value (must be numeric)"), default 1.3333.
     double Kfactor() const { return realValue(KFactorRow); }
     void setKfactor(double value) { setValue(KFactorRow, value); }
     bool hasKfactor() const { return isPresent(KFactorRow); }

@@ -7,15 +7,14 @@
 
 namespace ArvXml {
 
-/// The parameters of the optical line-of-sight model, both optional:
+/// The parameters of the optical line-of-sight model, both optional. The K-factor may be repeated before the range; the
+/// last one counts. Reading does not reset the set. reset() keeps the text of the last syntaxError().
 /// \code{.xml}
 /// <PropertiesOLOS>
 ///     <K-factor>1.0000</K-factor>
 ///     <MaxRange_km>50.000</MaxRange_km>
 /// </PropertiesOLOS>
 /// \endcode
-/// The K-factor may be repeated before the range, and the last one counts. Reading does not reset the set:
-/// what the document does not mention stays. reset() leaves the text of the last syntaxError() in place.
 class ARVXML_EXPORT XmlPropModelOLOSType : public XmlParameterSet {
 public:
     XmlPropModelOLOSType();
@@ -25,8 +24,8 @@ public:
     void setKfactor(double value) { setValue(KFactorRow, value); }
     bool hasKfactor() const { return isPresent(KFactorRow); }
 
-    /// The greatest range, tag "MaxRange_km" ("Range out of bounds", "Illegal range value (must be numeric)"):
-    /// 0.1 to 50.0 km, default 50.0.
+    /// The maximum range, tag "MaxRange_km": 0.1 to 50.0 km ("Range out of bounds"; reader error "Illegal range value
+    /// (must be numeric)"), default 50.0.
     double maxRange_km() const { return realValue(MaxRangeRow); }
     void setMaxRange_km(double value) { setValue(MaxRangeRow, value); }
     bool hasMaxRange_km() const { return isPresent(MaxRangeRow); }

@@ -7,29 +7,26 @@
 
 namespace ArvXml {
 
-/// The envelope of an order, in command and response documents; both children are required, in this order:
+/// The envelope of an order, in command and response documents; both children are required, in the order shown. Valid
+/// with both set ("Id not set.", "Sender not set."). Reading drops an id in another format and an empty sender without
+/// an error, and keeps the existing one: reset an envelope before reading into it again.
 /// \code{.xml}
 /// <ORDER_DEF>
 ///     <ORDER_ID>ARV240305140709042</ORDER_ID>
 ///     <ORDER_SENDER>client-1</ORDER_SENDER>
 /// </ORDER_DEF>
 /// \endcode
-/// Valid with both set ("Id not set.", "Sender not set."). An id of another form is dropped while
-/// reading, without an error; so is an empty sender. What was held before then stays: reset an envelope
-/// before reading into it again.
 class ARVXML_EXPORT XmlOrderDef : public XmlComposite {
 public:
     XmlOrderDef();
 
-    /// A fresh envelope: "ARV" with the local date and time as id ("yyMMddhhmmsszzz", to the
-    /// millisecond), the name of this host as sender. Two made within one millisecond have the same id.
-    /// Without a host name the sender stays empty and the envelope is not valid.
+    /// A new envelope, with "ARV" and the local date and time ("yyMMddhhmmsszzz") as id and the host name as sender.
+    /// Two within one millisecond have the same id. Without a host name the sender is empty and the envelope invalid.
     static XmlOrderDef createValidInstance();
 
     /// The id, empty by default.
     const QString& orderId() const { return m_orderId; }
-    /// Stores \a id and returns true if it is "ARV" and exactly 15 digits, of whatever script; otherwise
-    /// changes nothing.
+    /// Stores \a id and returns true if it is "ARV" and exactly 15 digits of any script; otherwise changes nothing.
     bool setOrderId(const QString& id);
 
     /// The sender's name, empty by default.

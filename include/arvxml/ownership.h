@@ -7,17 +7,13 @@
 #include <utility>
 
 /// \file
-/// How an element holds its children. A child that is always present is a plain member of its own
-/// type; the two kinds below bring the copy rules for children that may be absent or repeated. With
-/// them, copying, assigning and destroying an element is the compiler's work. When memory runs out, a setter
-/// leaves what was held.
+/// How an element holds its children: as plain members if always present, otherwise in the classes below, whose copy
+/// rules let the compiler copy, assign and destroy elements. If memory runs out, a setter keeps the existing content.
 
 namespace ArvXml {
 
-/// A child that may be absent.
-///
-/// Copying copies the child. Assignment assigns into the child held if both sides hold one, removes
-/// it if the source holds none, and makes a copy if only the source holds one.
+/// A child that may be absent. Copying copies the child. Assignment assigns to the existing child if both sides have
+/// one, removes it if the source has none, and copies it if only the source has one.
 template <typename T>
 class OptionalChild {
 public:
@@ -32,7 +28,7 @@ public:
     OptionalChild(OptionalChild&&) noexcept = default;
     ~OptionalChild() = default;
 
-    /// Assigns into the child held, removes it, or makes a copy, as the other side has it.
+    /// Assigns to the existing child, removes it or copies it, depending on the other side.
     OptionalChild& operator=(const OptionalChild& other)
     {
         if (other.isPresent())
@@ -41,11 +37,11 @@ public:
             clear();
         return *this;
     }
-    /// Moves into the child held if both sides hold one; otherwise takes what the other side has.
+    /// Moves into the existing child if both sides have one; otherwise takes what the other side has.
     OptionalChild& operator=(OptionalChild&& other) noexcept(std::is_nothrow_move_assignable_v<T>)
     {
         if (isPresent() && other.isPresent())
-            *m_child = std::move(*other.m_child); // the object held stays, as in every assignment
+            *m_child = std::move(*other.m_child); // the existing object stays, as in every assignment
         else
             m_child = std::move(other.m_child);
         return *this;
@@ -58,7 +54,7 @@ public:
     const T* get() const { return m_child.get(); }
     T* get() { return m_child.get(); }
 
-    /// Assigns into the child held, or makes a copy when absent. \a value may be the child itself.
+    /// Assigns to the existing child, or makes a copy when absent. \a value may be the child itself.
     void set(const T& value)
     {
         if (isPresent())
@@ -67,10 +63,10 @@ public:
             m_child = std::make_unique<T>(value);
     }
 
-    /// The child held, made with its defaults when absent.
+    /// The child, constructed with its defaults when absent.
     T& obtain() { return isPresent() ? *m_child : renew(); }
 
-    /// A new child made of \a arguments, none for its defaults, in place of the one held, if any.
+    /// Replaces the child, if any, with a new one constructed from \a arguments (none for its defaults).
     template <typename... Arguments>
     T& renew(Arguments&&... arguments)
     {
@@ -81,16 +77,14 @@ public:
     /// Destroys the child, if there is one.
     void clear() { m_child.reset(); }
 
-    /// Gives the child held up to the caller without destroying it; the child is then absent.
+    /// Releases the child to the caller without destroying it; it is then absent.
     T* release() { return m_child.release(); }
 
 private:
     std::unique_ptr<T> m_child;
 };
 
-/// Children that are repeated. \a Pointers is the container that getters hand out.
-///
-/// Copying copies every item. The items belong to this list, whoever else holds their pointers.
+/// Repeated children, owned by the list. \a Pointers is the container that getters return. Copying copies every item.
 template <typename T, typename Pointers = QList<T*>>
 class OwnedList {
 public:
@@ -102,7 +96,7 @@ public:
     OwnedList(OwnedList&& other) noexcept { m_items.swap(other.m_items); }
     ~OwnedList() { qDeleteAll(m_items); }
 
-    /// Replaces the items held by a copy of each of the other side's.
+    /// Replaces the items with copies of those of the other side.
     OwnedList& operator=(const OwnedList& other)
     {
         if (this != &other)
@@ -116,15 +110,14 @@ public:
         return *this;
     }
 
-    /// The items, in order; they stay the list's.
+    /// The items in order, owned by the list.
     const Pointers& items() const { return m_items; }
-    /// Whether there are none.
+    /// Whether there are no items.
     bool isEmpty() const { return m_items.isEmpty(); }
-    /// How many items there are.
+    /// The number of items.
     int size() const { return static_cast<int>(m_items.size()); }
 
-    /// Replaces the items held by a copy of each given one, null pointers left out. \a items may be
-    /// the list held or hold items of it.
+    /// Replaces the items with copies, leaving out null pointers. \a items may be this list or contain its items.
     void set(const Pointers& items)
     {
         OwnedList copies;

@@ -7,7 +7,9 @@
 
 namespace ArvXml {
 
-/// The parameters of the ITU-R P.1546 point-to-area model, all optional:
+/// The parameters of the ITU-R P.1546 point-to-area model, all optional. Texts must match those of the enumerators
+/// exactly, including that of value 0 ("Illegal enum for PropPathType"). Values outside the enumerators are written
+/// with the text of value 0; no value is invalid. Numbers out of range are reported like "TimePct out of bounds".
 /// \code{.xml}
 /// <PropertiesP1546>
 ///     <K-factor>1.333</K-factor>
@@ -22,9 +24,6 @@ namespace ArvXml {
 ///     <PathTypeForRxAnt>Cold Sea</PathTypeForRxAnt>
 /// </PropertiesP1546>
 /// \endcode
-/// Each parameter comes at most once, in this order. Choices are read exactly by the texts at their enumerators,
-/// that of value 0 included ("Illegal enum for PropPathType"); a value outside is written with the text of value 0,
-/// and none is invalid. Numbers out of range read "TimePct out of bounds", and so on. Reading resets the set first.
 class ARVXML_EXPORT XmlPropModelP1546Type : public XmlParameterSet {
 public:
     /// The types of paths, with their texts.
@@ -35,7 +34,7 @@ public:
         PathWarmSea = 3,   ///< "Warm Sea"
     };
 
-    /// The surroundings, with their texts. The fourth is "Warm Sea", as the fourth path is.
+    /// The environments, with their texts. The fourth is "Warm Sea", as for paths.
     enum Environment : int {
         EnvironmentUndefined = 0, ///< "Undefined"
         EnvironmentOpen = 1,      ///< "Open"
@@ -43,7 +42,7 @@ public:
         EnvironmentWarmSea = 3,   ///< "Warm Sea"
     };
 
-    /// Yes or no, with the texts.
+    /// Off or on, with their texts.
     enum Switch : int {
         SwitchOff = 0, ///< "Off"
         SwitchOn = 1,  ///< "On"
@@ -67,26 +66,25 @@ public:
     void setPath(Path value) { setValue(PathRow, value); }
     bool hasPath() const { return isPresent(PathRow); }
 
-    /// The percentage of locations, tag "LocVar": 1.0 to 99.0, default 50.0. A text that is no number leaves
-    /// 50.0 as present, and makes "TimePct" absent instead.
+    /// The percentage of locations, tag "LocVar": 1.0 to 99.0, default 50.0. A text that is not a number leaves 50.0 as
+    /// present and makes "TimePct" absent instead.
     double locVar() const { return realValue(LocVarRow); }
     void setLocVar(double value) { setValue(LocVarRow, value); }
     bool hasLocVar() const { return isPresent(LocVarRow); }
 
-    /// The gain of the broadcasting antenna, tag "BoardAntGain" (so spelled, but its
-    /// problem reads "BroadAntGain out of bounds"): 0.0 to 99.999, default 0.0. A text that is no number leaves
-    /// 50.0. The setter is spelled "GAin".
+    /// The gain of the broadcasting antenna, tag "BoardAntGain" (sic; problem "BroadAntGain out of bounds"): 0.0 to
+    /// 99.999, default 0.0. A text that is not a number leaves 50.0. The setter is spelled "GAin".
     double broadAntGain() const { return realValue(BroadAntGainRow); }
     void setBroadAntGAin(double value) { setValue(BroadAntGainRow, value); }
     bool hasBroadAntGain() const { return isPresent(BroadAntGainRow); }
 
-    /// The surroundings of the receiving antenna, tag "RxAntEnviro"; undefined by default.
+    /// The environment of the receiving antenna, tag "RxAntEnviro"; undefined by default.
     Environment rxAntE() { return choiceValue<Environment>(RxAntERow); }
     Environment rxAntE() const { return choiceValue<Environment>(RxAntERow); }
     void setRxAntE(Environment value) { setValue(RxAntERow, value); }
     bool hasRxAntE() const { return isPresent(RxAntERow); }
 
-    /// The surroundings in the area on average, tag "AvgAreaEnviro"; undefined by default.
+    /// The average environment in the area, tag "AvgAreaEnviro"; undefined by default.
     Environment avgAreaE() { return choiceValue<Environment>(AvgAreaERow); }
     Environment avgAreaE() const { return choiceValue<Environment>(AvgAreaERow); }
     void setAvgAreaE(Environment value) { setValue(AvgAreaERow, value); }

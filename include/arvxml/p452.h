@@ -7,7 +7,8 @@
 
 namespace ArvXml {
 
-/// The parameters of the ITU-R P.452 interference model, all optional:
+/// The parameters of the ITU-R P.452 interference model, all optional. Numbers without decimals are read as integers.
+/// Numbers out of range are reported like "DeltaN out of bounds". Messages call the class "XmlPropModelP542Type".
 /// \code{.xml}
 /// <PropertiesP452>
 ///     <DeltaN>45.6</DeltaN>
@@ -22,19 +23,16 @@ namespace ArvXml {
 ///     <DistRxCoast_km>500.0</DistRxCoast_km>
 /// </PropertiesP452>
 /// \endcode
-/// Each parameter comes at most once, in this order; numbers without decimals are read as integers. Numbers out of
-/// range read "DeltaN out of bounds", and so on. Reading resets the set first. Messages call the class
-/// "XmlPropModelP542Type".
 class ARVXML_EXPORT XmlPropModelP452Type : public XmlParameterSet {
 public:
     XmlPropModelP452Type();
 
-    /// The lapse of the refractive index, tag "DeltaN": 0.0 to 600.0, default 45.59.
+    /// The lapse rate of the refractive index, tag "DeltaN": 0.0 to 600.0, default 45.59.
     double deltaN() const { return realValue(DeltaNRow); }
     void setDeltaN(double value) { setValue(DeltaNRow, value); }
     bool hasDeltaN() const { return isPresent(DeltaNRow); }
 
-    /// The refractivity at the surface, tag "SurfaceRefract": 250 to 400, default 329.
+    /// The surface refractivity, tag "SurfaceRefract": 250 to 400, default 329.
     int surfaceRefract() const { return integerValue(SurfaceRefractRow); }
     void setSurfaceRefract(int value) { setValue(SurfaceRefractRow, value); }
     bool hasSurfaceRefract() const { return isPresent(SurfaceRefractRow); }

@@ -7,7 +7,10 @@
 
 namespace ArvXml {
 
-/// The parameters of the ITU-R P.526 diffraction model, all optional. It is read as
+/// The parameters of the ITU-R P.526 diffraction model, all optional. All but the K-factor are written with other tags
+/// ("Polarisation", and labels with spaces, which are not XML names) and cannot be read back. Texts must match those of
+/// the enumerators exactly, including that of value 0 ("Illegal enum for Pol"). Values outside the enumerators are
+/// written with the default text; no value is invalid. Read as:
 /// \code{.xml}
 /// <PropertiesP526>
 ///     <K-factor>1.333</K-factor>
@@ -17,10 +20,6 @@ namespace ArvXml {
 ///     <IncludeSubPathDiffractionLoss>On</IncludeSubPathDiffractionLoss>
 /// </PropertiesP526>
 /// \endcode
-/// All but the K-factor are written under other names than they are read ("Polarisation", and labels with
-/// blanks, which are no names of XML): none of them can be read back. Each parameter comes at most once, in this
-/// order. Choices are read exactly by the texts at their enumerators, that of value 0 included ("Illegal enum for
-/// Pol"); a value outside is written with the default's text, and none is invalid. Reading resets the set first.
 class ARVXML_EXPORT XmlPropModelP526Type : public XmlParameterSet {
 public:
     /// The polarisations, with their texts.
@@ -38,7 +37,7 @@ public:
         SurfaceSeaWater = 4,      ///< "Sea Water"
     };
 
-    /// Yes or no, with the texts.
+    /// Off or on, with their texts.
     enum Switch : int {
         SwitchOff = 0, ///< "Off"
         SwitchOn = 1,  ///< "On"
@@ -51,27 +50,27 @@ public:
     void setKfactor(double value) { setValue(KFactorRow, value); }
     bool hasKFactor() const { return isPresent(KFactorRow); }
 
-    /// The polarisation, read under "Pol", written under "Polarisation"; horizontal by default.
+    /// The polarisation, read as "Pol", written as "Polarisation"; horizontal by default.
     Polarisation pol() { return choiceValue<Polarisation>(PolRow); }
     Polarisation pol() const { return choiceValue<Polarisation>(PolRow); }
     void setPol(Polarisation value) { setValue(PolRow, value); }
     bool hasPol() const { return isPresent(PolRow); }
 
-    /// The ground, read under "Surface", written under "Surface Condition"; average ground by default.
+    /// The ground, read as "Surface", written as "Surface Condition"; average ground by default.
     Surface surf() { return choiceValue<Surface>(SurfRow); }
     Surface surf() const { return choiceValue<Surface>(SurfRow); }
     void setSurf(Surface value) { setValue(SurfRow, value); }
     bool hasSurf() const { return isPresent(SurfRow); }
 
-    /// Whether the earth is taken as smooth, read under "AssumeSmoothEarth", written under "Assume Smooth
-    /// Earth for complete path"; off by default.
+    /// Whether the earth is assumed smooth, read as "AssumeSmoothEarth", written as "Assume Smooth Earth for complete
+    /// path"; off by default.
     Switch smooth() { return choiceValue<Switch>(SmoothRow); }
     Switch smooth() const { return choiceValue<Switch>(SmoothRow); }
     void setSmooth(Switch value) { setValue(SmoothRow, value); }
     bool hasSmooth() const { return isPresent(SmoothRow); }
 
-    /// Whether the diffraction of sub-paths counts, read under "IncludeSubPathDiffractionLoss", written under
-    /// "Include sub path diffraction loss"; on by default.
+    /// Whether to include sub-path diffraction, read as "IncludeSubPathDiffractionLoss", written as "Include sub path
+    /// diffraction loss"; on by default.
     Switch subPath() { return choiceValue<Switch>(SubPathRow); }
     Switch subPath() const { return choiceValue<Switch>(SubPathRow); }
     void setSubPath(Switch value) { setValue(SubPathRow, value); }

@@ -7,16 +7,14 @@
 
 namespace ArvXml {
 
-/// The parameters of the ITU-R P.533 HF model, both optional:
+/// The parameters of the ITU-R P.533 HF model, both optional. Numbers out of range are reported as "K-factor out of
+/// bounds" and "SmoothedSunSpotNumber out of bounds". Messages call the class "XmlPropModelP526Type".
 /// \code{.xml}
 /// <PropertiesP533>
 ///     <K-factor>1.000</K-factor>
 ///     <SmoothedSunSpotNumber>5.0</SmoothedSunSpotNumber>
 /// </PropertiesP533>
 /// \endcode
-/// Each parameter comes at most once, in this order. Numbers out of range read "K-factor out of bounds" and
-/// "SmoothedSunSpotNumber out of bounds". Reading resets the set first. Messages call the class
-/// "XmlPropModelP526Type".
 class ARVXML_EXPORT XmlPropModelP533Type : public XmlParameterSet {
 public:
     XmlPropModelP533Type();

@@ -1,7 +1,7 @@
 #pragma once
 
 /// \file
-/// What the parameter sets of the propagation models have in common.
+/// The base of the parameter sets of the propagation models.
 
 #include "arvxml/element.h"
 
@@ -11,13 +11,11 @@ namespace ArvXml {
 
 class ParameterTable;
 
-/// The base of the parameter sets of the propagation models: a row of optional values.
-///
-/// Each value has a flag that tells whether it is present; only present values are written and judged.
-/// Setters store the value without checking and set the flag; getters return the value whether present
-/// or not. A flag is cleared by reset(), and by a text that cannot be read ("Illegal K-factor value (must be
-/// numeric)"); the value is then the default, where its class says nothing else. Numbers out of range are
-/// stored while reading, and reported afterwards. A set has no attributes and no version.
+/// The base of the parameter sets of the propagation models: optional values, without attributes or version. Setters
+/// store a value unchecked and flag it as present; only present values are written and validated. Getters always return
+/// the value; reset() clears the flag. Unless its class says otherwise, reading resets the set first, accepts each
+/// parameter at most once, in the order of the sample, and on an unreadable text ("Illegal K-factor value (must be
+/// numeric)") clears the flag and leaves the default. Numbers out of range are read and reported later; NaN is not.
 class ARVXML_EXPORT XmlParameterSet : public XmlElement {
 public:
     ~XmlParameterSet() override = default;
@@ -28,9 +26,9 @@ public:
     void reset() override;
 
 protected:
-    /// A set with these parameters, in the order of reading and writing; the values are their defaults.
+    /// Constructs a set of these parameters, in the order of reading and writing, with their defaults.
     XmlParameterSet(const QString& className, const ParameterTable& table);
-    // Protected: a set is no good with the values of a set of another kind.
+    // Protected: a set must not get the values of a set of another kind.
     XmlParameterSet(const XmlParameterSet&) = default;
     XmlParameterSet& operator=(const XmlParameterSet&) = default;
     /// Exchanges all values and flags, so that both sides keep a value for each parameter.
@@ -47,7 +45,7 @@ protected:
     }
     bool isPresent(int parameter) const { return at(parameter).isPresent; }
     void setValue(int parameter, double value) { at(parameter) = {value, true}; }
-    /// Puts every value to its default and clears every flag.
+    /// Sets every value to its default and clears every flag.
     void resetParameters();
 
 private:

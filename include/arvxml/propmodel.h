@@ -17,18 +17,14 @@
 
 namespace ArvXml {
 
-/// The choice of a propagation model: `<SelectModel>P.1546</SelectModel>`.
-///
-/// The texts stand at the enumerators; another text is the reader error "Illegal enum value.". Undefined is
-/// reported as "No model selected.".
-///
-/// Unlike the other enumerations it is read from a start tag only ("Parse error (wrong position)"), and its
-/// text is read whole: comments do not cut it, and an empty one is an unknown one.
+/// A propagation model: `<SelectModel>P.1546</SelectModel>`. See the enumerators for the texts. Other texts are the
+/// reader error "Illegal enum value.". Problem: "No model selected.". Unlike other enumerations it needs a start tag
+/// ("Parse error (wrong position)") and is read whole: comments do not split it, and an empty text is unknown.
 class ARVXML_EXPORT XmlPropModelEnumType : public XmlEnumeration {
 public:
     /// The models, with their texts.
     enum Model : int {
-        ModelUndefined = 0,   ///< None chosen.
+        ModelUndefined = 0,   ///< Not set.
         ModelFreespace = 1,   ///< "Free-space"
         ModelOLOS = 2,        ///< "OLOS": optical line of sight
         ModelITM = 3,         ///< "ITM": Irregular Terrain Model
@@ -52,7 +48,9 @@ private:
     const EnumerationRules& rules() const override;
 };
 
-/// The command to choose a propagation model and set its parameters:
+/// The command to choose a propagation model and set its parameters. The selection comes first, then at most one
+/// parameter set ("Illegal number of elements."). Both are optional and need not match. The reference is present, and
+/// required, only if the element is a command. Reading does not reset the element; children read replace existing ones.
 /// \code{.xml}
 /// <PropagationModel>
 ///     <SelectModel>P.1546</SelectModel>
@@ -63,13 +61,9 @@ private:
 ///     <Reference>42</Reference>
 /// </PropagationModel>
 /// \endcode
-/// The selection comes first, then at most one parameter set ("Illegal number of elements."); both may be
-/// missing, and nothing ties the set to the selection. The reference is there, and required, only for an
-/// object that is a command. Reading does not reset the element first; a child read replaces the one held.
 class ARVXML_EXPORT XmlPropModelType : public XmlCommand {
 public:
-    /// \a isCommand tells whether the element is a command, with a reference. Reading and reset() leave
-    /// that as it is; copies take it over.
+    /// \a isCommand makes the element a command with a reference. Reading and reset() keep this, copies take it over.
     explicit XmlPropModelType(bool isCommand);
     /// Whether the element is a command, with a reference.
     bool isCommand() const { return m_isCommand; }

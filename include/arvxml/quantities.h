@@ -7,10 +7,8 @@
 
 namespace ArvXml {
 
-/// A level in dBm: `<dBm version="1.0" unit="dBm">3.000000000</dBm>`. Default -110.0.
-///
-/// Valid only when greater than 2.2250738585072014e-308 and less than 1.7976931348623157e308: every
-/// zero and negative level is reported as "Illegal decibel.", the default included.
+/// A level in dBm: `<dBm version="1.0" unit="dBm">3.000000000</dBm>`. Default -110.0 (invalid). Valid above
+/// 2.2250738585072014e-308 and below 1.7976931348623157e308; zero and negative levels are "Illegal decibel.".
 class ARVXML_EXPORT XmlDBMType : public XmlFixedUnitQuantity {
 public:
     XmlDBMType();
@@ -23,10 +21,8 @@ private:
     const QuantityRules& rules() const override;
 };
 
-/// A ratio in dB: `<Decibel version="1.0" unit="dB">3.000000</Decibel>`. Default -0.0.
-///
-/// Valid only when greater than 2.2250738585072014e-308 and less than 1.7976931348623157e308: every
-/// zero and negative ratio is reported as "Illegal decibel.", the default included.
+/// A ratio in dB: `<Decibel version="1.0" unit="dB">3.000000</Decibel>`. Default -0.0 (invalid). Valid above
+/// 2.2250738585072014e-308 and below 1.7976931348623157e308; zero and negative ratios are "Illegal decibel.".
 class ARVXML_EXPORT XmlDecibelType : public XmlFixedUnitQuantity {
 public:
     XmlDecibelType();
@@ -39,9 +35,8 @@ private:
     const QuantityRules& rules() const override;
 };
 
-/// An angle in degrees: `<Degrees version="1.0" unit="°">12.3</Degrees>`. Default -0.0.
-///
-/// Valid from 0.0 to 90.0; otherwise the problem reads "Illegal decibel.", for angles too.
+/// An angle in degrees: `<Degrees version="1.0" unit="°">12.3</Degrees>`. Default -0.0, valid from 0.0 to 90.0
+/// ("Illegal decibel.", sic).
 class ARVXML_EXPORT XmlDegreesType : public XmlFixedUnitQuantity {
 public:
     XmlDegreesType();
@@ -54,10 +49,8 @@ private:
     const QuantityRules& rules() const override;
 };
 
-/// A length in whole metres: `<AntennaHeight version="1.0" unit="m">10</AntennaHeight>`. Default 0.
-///
-/// Read as a decimal integer: 12.5 is not numeric here. Any length is valid, with the unit "m"
-/// ("Illegal unit (must be "m").").
+/// A length in whole metres: `<AntennaHeight version="1.0" unit="m">10</AntennaHeight>`. Default 0. Read as a decimal
+/// integer: 12.5 is not numeric here. Any length is valid with the unit "m" ("Illegal unit (must be "m").").
 class ARVXML_EXPORT XmlLengthType : public XmlReadUnitQuantity {
 public:
     XmlLengthType();
@@ -70,9 +63,8 @@ private:
     const QuantityRules& rules() const override;
 };
 
-/// A power in W: `<TxPower version="1.0" unit="W">10.000000000000000</TxPower>`. Default -9.9.
-///
-/// Valid from -60.0 on ("Illegal power."), with the unit "W" ("Illegal unit.").
+/// A power in W: `<TxPower version="1.0" unit="W">10.000000000000000</TxPower>`. Default -9.9. Valid from -60.0
+/// ("Illegal power.") with the unit "W" ("Illegal unit.").
 class ARVXML_EXPORT XmlPowerType : public XmlReadUnitQuantity {
 public:
     XmlPowerType();
@@ -85,14 +77,10 @@ private:
     const QuantityRules& rules() const override;
 };
 
-/// A frequency: `<Frequency version="1.0" unit="kHz">2400.000000</Frequency>`. Default -9.9 MHz.
-///
-/// The value is held in MHz, whatever the unit on the wire. A number read with an unknown unit is
-/// dropped (the value stays as it was) and the unit reported later. Valid above 0.0 ("Illegal
-/// frequency."), with the unit "Hz", "kHz", "MHz" or "GHz" ("Illegal unit.").
-///
-/// In Hz, from some gigahertz on, the conversion to MHz and back changes the last decimals written, a little
-/// more each time that a document is read and written again.
+/// A frequency: `<Frequency version="1.0" unit="kHz">2400.000000</Frequency>`. Default -9.9 MHz. The value is held in
+/// MHz, whatever the unit on the wire. With an unknown unit the number read is ignored and the unit reported later.
+/// Valid above 0.0 ("Illegal frequency.") with the unit "Hz", "kHz", "MHz" or "GHz" ("Illegal unit."). In Hz, from a
+/// few gigahertz up, conversion to MHz and back changes the last decimals, a little more with each round trip.
 class ARVXML_EXPORT XmlFreqType : public XmlReadUnitQuantity {
 public:
     XmlFreqType();
@@ -101,8 +89,7 @@ public:
     double frequency_MHz() const { return m_value; }
     void setFrequency_MHz(double frequency) { m_value = frequency; }
 
-    /// The unit to write in; it does not change the value held. An unknown unit is written with the
-    /// number of megahertz, and an empty one is refused by readers.
+    /// The unit, for writing only. An unknown one is written with the value in MHz; readers refuse an empty one.
     void setUnit(const QString& unit) { m_unit = unit; }
 
 private:
@@ -112,12 +99,9 @@ private:
     double writtenNumber() const override;
 };
 
-/// A bandwidth in kHz: `<Bandwidth version="1.0" unit="kHz">25</Bandwidth>`. Default -1.0.
-///
-/// Read as a decimal integer, but written with six significant digits: 25.5, or anything from a million
-/// on (1e+06), is valid and written, and refused when read. Valid from 0.0 on, with the unit "kHz". Its
-/// problems name another class: "XmlDfPrecisionType: Illegal precision." and "XmlDfPrecisionType: Illegal
-/// unit.".
+/// A bandwidth in kHz: `<Bandwidth version="1.0" unit="kHz">25</Bandwidth>`. Default -1.0. Valid from 0.0
+/// ("XmlDfPrecisionType: Illegal precision.", sic) with the unit "kHz" ("XmlDfPrecisionType: Illegal unit.", sic). Read
+/// as a decimal integer but written with six significant digits: 25.5, or 1e+06 and more, is valid but unreadable.
 class ARVXML_EXPORT XmlBandwidthType : public XmlReadUnitQuantity {
 public:
     XmlBandwidthType();
@@ -130,11 +114,8 @@ private:
     const QuantityRules& rules() const override;
 };
 
-/// A field strength threshold in dBm:
-/// `<RxThreshold version="1.0" unit="dBm">-100.000000000000000</RxThreshold>`. Default -99999.999.
-///
-/// Valid above -99999.989 ("Illegal fieldstrength."), just above the default, with the unit "dBm"
-/// ("Illegal unit.").
+/// A field strength threshold in dBm: `<RxThreshold version="1.0" unit="dBm">-100.000000000000000</RxThreshold>`.
+/// Default -99999.999, valid above -99999.989 ("Illegal fieldstrength.") with the unit "dBm" ("Illegal unit.").
 class ARVXML_EXPORT XmlFieldstrengthType : public XmlReadUnitQuantity {
 public:
     XmlFieldstrengthType();
@@ -147,11 +128,8 @@ private:
     const QuantityRules& rules() const override;
 };
 
-/// A signal-to-interference ratio (SINAD): `<SINAD version="1.0">12.000000</SINAD>`, without a unit;
-/// a "unit" attribute is ignored. Default 0.0.
-///
-/// Valid only when greater than 2.2250738585072014e-308 and less than 1.7976931348623157e308;
-/// otherwise the problem reads "Illegal frequency.", for a SINAD too.
+/// A signal-to-interference ratio (SINAD): `<SINAD version="1.0">12.000000</SINAD>`. A "unit" is ignored. Default 0.0
+/// (invalid). Valid above 2.2250738585072014e-308 and below 1.7976931348623157e308 ("Illegal frequency.", sic).
 class ARVXML_EXPORT XmlSinadType : public XmlQuantity {
 public:
     XmlSinadType();

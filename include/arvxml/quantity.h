@@ -9,14 +9,10 @@ namespace ArvXml {
 
 struct QuantityRules;
 
-/// The base of the measured quantities: an element whose text is one number, with the attribute
-/// "version" and, for all but the SINAD, "unit".
-///
-/// A text that is no number is the reader error "Illegal value (must be numeric)" and leaves the
-/// default in the element; an empty element leaves the value as it was. Setters store without
-/// checking; numbers out of range and wrong versions are reported by isValid() and syntaxError(). The
-/// decimals written are those of the example at each class: a number smaller than they can show is
-/// written as zero.
+/// The base of the measured quantities: one number as text, with the attribute "version" and, except for the SINAD,
+/// "unit". A text that is not a number is the reader error "Illegal value (must be numeric)" and leaves the default; an
+/// empty element keeps the value. Setters do not check; isValid() and syntaxError() report numbers out of range and
+/// wrong versions. The decimals written are those of the sample of each class; smaller numbers are written as zero.
 class ARVXML_EXPORT XmlQuantity : public XmlElement, public XmlVersioned {
 public:
     void processXml(QXmlStreamReader& reader, const QString& tagName) override;
@@ -29,8 +25,7 @@ protected:
 
     void addErrors() override;
 
-    /// The rules that the constructor got. An object does not keep them: lists of levels would take a third more
-    /// memory.
+    /// The rules passed to the constructor. They are not stored: lists of levels would take a third more memory.
     virtual const QuantityRules& rules() const = 0;
 
     double m_value;
@@ -40,15 +35,15 @@ private:
     virtual void readUnit(ElementReader& in);
     /// The unit to write; null for a quantity without one.
     virtual const QString* writtenUnit() const;
-    /// Whether the quantity may have the unit it has.
+    /// Whether the unit is valid.
     virtual bool isUnitValid() const;
-    /// Takes a number as it stands on the wire.
+    /// Stores a number as read from the wire.
     virtual void takeNumber(double number);
-    /// The number as it stands on the wire.
+    /// The number as written to the wire.
     virtual double writtenNumber() const;
 };
 
-/// The base of the quantities whose unit is fixed: it is written, but not read.
+/// The base of the quantities with a fixed unit, which is written but not read.
 class ARVXML_EXPORT XmlFixedUnitQuantity : public XmlQuantity {
 public:
     /// The unit, always the same.
@@ -61,11 +56,10 @@ private:
     const QString* writtenUnit() const override;
 };
 
-/// The base of the quantities whose unit is read: the attribute "unit" is required ("Missing
-/// attribute: "unit""), its text is stored whatever it is, and judged afterwards.
+/// The base of quantities with a required attribute "unit" ("Missing attribute: "unit""), validated only after reading.
 class ARVXML_EXPORT XmlReadUnitQuantity : public XmlQuantity {
 public:
-    /// The unit as it was read; on a new element the one that its class names.
+    /// The unit as read; for a new element the default of its class.
     const QString& unit() const { return m_unit; }
     void reset() override;
 

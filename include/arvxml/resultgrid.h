@@ -7,15 +7,13 @@
 
 namespace ArvXml {
 
-/// The spacing of a result grid: `<ResultGrid>100</ResultGrid>`.
-///
-/// The texts stand at the enumerators; another text is the reader error "Illegal enum value.". An undefined
-/// spacing is reported as "Illegal grid size.".
+/// The spacing of a result grid: `<ResultGrid>100</ResultGrid>`. See the enumerators for the texts. Other texts are the
+/// reader error "Illegal enum value.". Problem: "Illegal grid size.".
 class ARVXML_EXPORT XmlResultGridType : public XmlEnumeration {
 public:
     /// The spacings, with their texts.
     enum GridSize : int {
-        Undefined = 0, ///< None chosen.
+        Undefined = 0, ///< Not set.
         Grid10 = 1,    ///< "10"
         Grid50 = 2,    ///< "50"
         Grid100 = 3,   ///< "100"

@@ -1,7 +1,7 @@
 #pragma once
 
 /// \file
-/// The records that describe results in a display snapshot request.
+/// The records of results in a display snapshot request.
 
 #include "arvxml/composite.h"
 #include "arvxml/geometry.h"
@@ -11,8 +11,8 @@
 
 namespace ArvXml {
 
-/// The base of the result information records. A record describes a result grid that was calculated: its
-/// name, the area that it covers, the spacing of the grid and the range of its values.
+/// The base of the result information records: the name of a result grid, the area it covers, its spacing and the range
+/// of its values. The children come in the order shown, with either "AreaPolygon" or "AreaRect"; all are required.
 /// \code{.xml}
 /// <Result_CEP version="1.0">
 ///     <Name>CEP of the valley</Name>
@@ -21,15 +21,9 @@ namespace ArvXml {
 ///     <Values version="1.0" unit="km"><Min>0.2</Min><Max>3</Max></Values>
 /// </Result_CEP>
 /// \endcode
-/// The children come in this order, with "AreaRect" for "AreaPolygon" as the case may be; all are required.
-/// Another version than "1.0" is refused while reading.
-///
-/// Reading one kind of area removes the other; setting it does not. With both set, both are written (and
-/// the second is refused when that is read), and only the polygon is judged. With neither the problem
-/// reads "Neither AreaPolygon nor AreaRect".
-///
-/// White space inside "Values" ends the reading there (XmlGridValuesType): an indented document cannot be
-/// read.
+/// White space inside "Values" ends the read (see XmlGridValuesType): an indented document cannot be read. Reading one
+/// kind of area removes the other; setting does not. With both set, both are written (and the second is refused on
+/// reading), and only the polygon is validated. With neither the problem is "Neither AreaPolygon nor AreaRect".
 class ARVXML_EXPORT XmlResInfo : public XmlVersionedComposite {
 public:
     /// The name of the result, tag "Name".
@@ -46,11 +40,11 @@ public:
     const XmlAreaRectType* areaRect() const { return m_areaRect.get(); }
     void setAreaRect(const XmlAreaRectType& rectangle) { m_areaRect.set(rectangle); }
 
-    /// The spacing of the grid, tag "ResultGrid".
+    /// The spacing of the result grid, tag "ResultGrid".
     const XmlResultGridType* resultGrid() const { return &m_resultGrid; }
     void setResultGrid(const XmlResultGridType& grid) { m_resultGrid = grid; }
 
-    /// The range of the grid's values, tag "Values".
+    /// The range of the values, tag "Values".
     const XmlGridValuesType* gridValues() const { return &m_gridValues; }
     void setGridValues(const XmlGridValuesType& values) { m_gridValues = values; }
 
@@ -67,7 +61,7 @@ private:
     XmlGridValuesType m_gridValues;
 };
 
-/// A result of the order "CEP": circular error probable.
+/// A result of the order "CEP" (circular error probable).
 class ARVXML_EXPORT XmlResInfo_Cep_Type : public XmlResInfo {
 public:
     XmlResInfo_Cep_Type();
@@ -79,7 +73,7 @@ public:
     XmlResInfo_DetectProb_Type();
 };
 
-/// A result of the order "DFcoverage": coverage by direction finders.
+/// A result of the order "DFcoverage" (coverage by direction finders).
 class ARVXML_EXPORT XmlResInfo_DfCov_Type : public XmlResInfo {
 public:
     XmlResInfo_DfCov_Type();
@@ -91,16 +85,14 @@ public:
     XmlResInfo_FindSites_Type();
 };
 
-/// A result of the order "BestSensorCov": which sensor serves best. It may have a comment behind the values:
-/// `<Comment>...</Comment>`, judged by isValid(), but not reported by syntaxError().
-///
-/// Messages show it under the name of another class, XmlResInfo_DetectProb_Type.
+/// A result of the order "BestSensorCov" (which sensor serves best). An optional `<Comment>...</Comment>` follows the
+/// values, checked by isValid() but not reported by syntaxError(). Messages call the class XmlResInfo_DetectProb_Type.
 class ARVXML_EXPORT XmlResInfo_BestSensor_Type : public XmlResInfo {
 public:
     XmlResInfo_BestSensor_Type();
 
     bool hasComment() const { return m_comment.isPresent(); }
-    /// The comment, tag "Comment"; null when absent. Reading replaces the one held.
+    /// The comment, tag "Comment"; null when absent. Reading replaces it.
     const XmlObjNameType* comment() const { return m_comment.get(); }
     void setComment(const XmlObjNameType& comment) { m_comment.set(comment); }
 

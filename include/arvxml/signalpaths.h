@@ -10,7 +10,8 @@
 
 namespace ArvXml {
 
-/// A named chain of devices from the antenna to the receiver, with the SINAD it needs:
+/// A named chain of devices from the antenna to the receiver, with the SINAD it needs. The children come in the order
+/// shown. The maps are optional; reading reuses existing ones. The list of devices has the same tag as its items.
 /// \code{.xml}
 /// <SignalPath version="1.0">
 ///     <Name>Mast 1</Name>
@@ -22,9 +23,6 @@ namespace ArvXml {
 ///     <CabLenMap version="1.0">...</CabLenMap>
 /// </SignalPath>
 /// \endcode
-/// The children come in this order, the two maps optional; reading reuses the maps held. The list of
-/// devices stands under "Device", as each device in it does. Another version than "1.0" is refused while
-/// reading.
 class ARVXML_EXPORT XmlSignalPathType : public XmlVersionedComposite {
 public:
     XmlSignalPathType();
@@ -33,7 +31,7 @@ public:
     const XmlObjNameType* objName() const { return &m_objName; }
     void setObjName(const XmlObjNameType& objName) { m_objName = objName; }
 
-    /// The SINAD that the path needs, tag "SINAD".
+    /// The required SINAD, tag "SINAD".
     const XmlSinadType* sinad() const { return &m_sinad; }
     void setSinad(const XmlSinadType& sinad) { m_sinad = sinad; }
 
@@ -61,7 +59,7 @@ private:
     OptionalChild<XmlMapListType> m_cableLengths;
 };
 
-/// The parameters of a transmitter, all required, in this order:
+/// The parameters of a transmitter, all required, in this order. Versions other than "1.0" are read and reported.
 /// \code{.xml}
 /// <TxParameter version="1.0">
 ///     <Frequency version="1.0" unit="MHz">145.500000</Frequency>
@@ -70,7 +68,6 @@ private:
 ///     <Bandwidth version="1.0" unit="kHz">25</Bandwidth>
 /// </TxParameter>
 /// \endcode
-/// Another version than "1.0" is read, and reported when the parameters are judged.
 class ARVXML_EXPORT XmlTxParamType : public XmlVersionedComposite {
 public:
     XmlTxParamType();
@@ -100,14 +97,13 @@ private:
     XmlBandwidthType m_bandwidth;
 };
 
-/// The parameters of a receiving site, both required, in this order:
+/// The parameters of a receiving site, both required, in this order. Versions other than "1.0" are read and reported.
 /// \code{.xml}
 /// <RxParameter version="1.0">
 ///     <AntennaHeight version="1.0" unit="m">10</AntennaHeight>
 ///     <RxThreshold version="1.0" unit="dBm">-100.000000000000000</RxThreshold>
 /// </RxParameter>
 /// \endcode
-/// Another version than "1.0" is read, and reported when the parameters are judged.
 class ARVXML_EXPORT XmlRxParamType : public XmlVersionedComposite {
 public:
     XmlRxParamType();
@@ -127,7 +123,9 @@ private:
     XmlFieldstrengthType m_rxThreshold;
 };
 
-/// The radio link of a station to the network, all children required, in this order. It is read as
+/// The radio link of a station to the network, all children required, in the order shown. The power is written as
+/// "Power", which the reader refuses: what is written cannot be read back. Versions other than "1.0" are read and
+/// reported. The version is changed by reading only and has no accessors. Read as:
 /// \code{.xml}
 /// <StationInterlink version="1.0">
 ///     <Frequency version="1.0" unit="MHz">400.000000</Frequency>
@@ -136,11 +134,6 @@ private:
 ///     <AntennaHeight version="1.0" unit="m">12</AntennaHeight>
 /// </StationInterlink>
 /// \endcode
-/// The power is written under "Power", which the reader refuses: what the library writes cannot be read
-/// back by it.
-///
-/// Another version than "1.0" is read, and reported when the link is judged. The version changes by reading only;
-/// there are no accessors for it.
 class ARVXML_EXPORT XmlStationInterlinkType : public XmlComposite {
 public:
     XmlStationInterlinkType();
@@ -149,7 +142,7 @@ public:
     const XmlFreqType* freq() const { return &m_frequency; }
     void setFreq(const XmlFreqType& frequency) { m_frequency = frequency; }
 
-    /// The power of the link's transmitter, tag "TxPower" read, "Power" written.
+    /// The power of the link's transmitter, tag "TxPower" on reading, "Power" on writing.
     const XmlPowerType* power() const { return &m_power; }
     void setPower(const XmlPowerType& power) { m_power = power; }
 

@@ -11,7 +11,9 @@
 
 namespace ArvXml {
 
-/// A sensor site of the deployment:
+/// A sensor site of the deployment. The children come in the order shown; only name and position are required. Reading
+/// reuses existing optional children. There is no version: a "version" attribute is ignored. What is written with an
+/// interlink cannot be read back; see XmlStationInterlinkType.
 /// \code{.xml}
 /// <Station>
 ///     <Name>Site 1</Name>
@@ -22,9 +24,6 @@ namespace ArvXml {
 ///     <StationInterlink version="1.0">...</StationInterlink>
 /// </Station>
 /// \endcode
-/// The children come in this order; only name and position are required. Reading reuses the optional children held.
-/// It has no version: a "version" attribute is ignored. What the library writes with an interlink cannot be read back;
-/// see XmlStationInterlinkType.
 class ARVXML_EXPORT XmlStationType : public XmlComposite {
 public:
     XmlStationType();
@@ -68,7 +67,7 @@ private:
     OptionalChild<XmlStationInterlinkType> m_interlink;
 };
 
-/// A receiving site; the children come in this order, the interlink optional:
+/// A receiving site; with the optional interlink, what is written cannot be read back (see XmlStationInterlinkType).
 /// \code{.xml}
 /// <Receiver version="1.0">
 ///     <Name>RX 1</Name>
@@ -77,7 +76,6 @@ private:
 ///     <StationInterlink version="1.0">...</StationInterlink>
 /// </Receiver>
 /// \endcode
-/// What the library writes with an interlink cannot be read back; see XmlStationInterlinkType.
 class ARVXML_EXPORT XmlReceiverType : public XmlSite {
 public:
     XmlReceiverType();
@@ -87,7 +85,7 @@ public:
     void setRxParam(const XmlRxParamType& parameters) { m_rxParam = parameters; }
 
     bool hasInterlink() const { return m_interlink.isPresent(); }
-    /// The link to the network, tag "StationInterlink"; null when absent. Reading replaces the one held.
+    /// The link to the network, tag "StationInterlink"; null when absent. Reading replaces it.
     const XmlStationInterlinkType* interlink() const { return m_interlink.get(); }
     void setInterlink(const XmlStationInterlinkType& interlink) { m_interlink.set(interlink); }
 

@@ -9,8 +9,8 @@ namespace ArvXml {
 
 struct TextRules;
 
-/// The base of the elements whose content is one short text. An empty element leaves the text as it was. Each piece of
-/// text replaces the one before (a comment cuts a text in two); blanks count.
+/// The base of the elements whose content is one short text. An empty element leaves the text unchanged. Each piece of
+/// text replaces the one before (a comment splits a text in two); spaces count.
 class ARVXML_EXPORT XmlText : public XmlElement {
 public:
     void processXml(QXmlStreamReader& reader, const QString& tagName) override;

@@ -19,7 +19,7 @@ class ARVXML_EXPORT XmlDBMListType : public XmlList {
 public:
     XmlDBMListType();
 
-    /// The items, owned by the list. The setter replaces them by copies of the given ones.
+    /// The items, owned by the list. The setter replaces them with copies.
     const QList<XmlDBMType*>& dBmList() const { return m_items.items(); }
     void setDBMList(const QList<XmlDBMType*>& items) { m_items.set(items); }
 
@@ -40,7 +40,7 @@ class ARVXML_EXPORT XmlDecibelListType : public XmlList {
 public:
     XmlDecibelListType();
 
-    /// The items, owned by the list. The setter replaces them by copies of the given ones.
+    /// The items, owned by the list. The setter replaces them with copies.
     const QList<XmlDecibelType*>& decibelList() const { return m_items.items(); }
     void setDecibelList(const QList<XmlDecibelType*>& items) { m_items.set(items); }
 
@@ -50,7 +50,7 @@ private:
     OwnedList<XmlDecibelType> m_items;
 };
 
-/// Angles, at least one ("Too few pairs (min. 1)"). Where a device has them, list and items have the same tag:
+/// Angles, at least one ("Too few pairs (min. 1)"). In a device, list and items have the same tag:
 /// \code{.xml}
 /// <Degrees version="1.0">
 ///     <Degrees version="1.0" unit="°">1.5</Degrees>
@@ -61,7 +61,7 @@ class ARVXML_EXPORT XmlDegreesListType : public XmlList {
 public:
     XmlDegreesListType();
 
-    /// The items, owned by the list. The setter replaces them by copies of the given ones.
+    /// The items, owned by the list. The setter replaces them with copies.
     const QList<XmlDegreesType*>& degreeList() const { return m_items.items(); }
     void setDegreesList(const QList<XmlDegreesType*>& items) { m_items.set(items); }
 
@@ -82,7 +82,7 @@ class ARVXML_EXPORT XmlFreqListType : public XmlList {
 public:
     XmlFreqListType();
 
-    /// The items, owned by the list. The setter replaces them by copies of the given ones.
+    /// The items, owned by the list. The setter replaces them with copies.
     const QList<XmlFreqType*>& freqList() const { return m_items.items(); }
     void setFreqList(const QList<XmlFreqType*>& items) { m_items.set(items); }
 
@@ -92,14 +92,14 @@ private:
     OwnedList<XmlFreqType> m_items;
 };
 
-/// A frequency and the receiver threshold at it, both required, in this order:
+/// A frequency and the receiver threshold at it, both required, in the order shown. Versions other than "1.0" are read
+/// and reported. No other element contains this one.
 /// \code{.xml}
 /// <Pair version="1.0">
 ///     <Frequency version="1.0" unit="MHz">30.000000</Frequency>
 ///     <RxThreshold version="1.0" unit="dBm">-100.000000000000000</RxThreshold>
 /// </Pair>
 /// \endcode
-/// Another version than "1.0" is read, and reported when the pair is judged. No other element holds this one.
 class ARVXML_EXPORT XmlFreqThrPairType : public XmlVersionedComposite {
 public:
     XmlFreqThrPairType();
@@ -120,12 +120,12 @@ private:
 };
 
 /// Thresholds by frequency, at least one ("Too few pairs (min. 1)"):
-/// `<Thresholds version="1.0"><Pair version="1.0">...</Pair></Thresholds>`. No other element holds this one.
+/// `<Thresholds version="1.0"><Pair version="1.0">...</Pair></Thresholds>`. No other element contains this one.
 class ARVXML_EXPORT XmlFreqThrListType : public XmlList {
 public:
     XmlFreqThrListType();
 
-    /// The items, owned by the list. The setter replaces them by copies of the given ones.
+    /// The items, owned by the list. The setter replaces them with copies.
     const QList<XmlFreqThrPairType*>& freqThrPairs() const { return m_items.items(); }
     void setFreqThrPairs(const QList<XmlFreqThrPairType*>& items) { m_items.set(items); }
 
