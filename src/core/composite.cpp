@@ -10,11 +10,12 @@ namespace ArvXml {
 void XmlComposite::processXml(QXmlStreamReader& reader, const QString& tagName)
 {
     const ContentModel& model = contentModel();
+    ElementReader in(classname(), reader, tagName,
+                     model.m_wording); // first: the tag may be a text that reset() removes
     if (model.m_isResetBeforeReading)
         reset();
     else if (model.m_areItemsReplaced)
         resetChildren();
-    ElementReader in(classname(), reader, tagName, model.m_wording);
     readStartTag(in);
     Marks read = model.m_firstMarks(*this);
 

@@ -13,27 +13,34 @@ namespace {
 QuantityRules normalPositive(const QString& unit, double defaultValue, int decimals, const char* error)
 {
     using Limits = std::numeric_limits<double>;
-    return reportingNan(
-        realQuantity(unit, defaultValue, {'f', decimals}, above(Limits::min()), below(Limits::max()), error));
+    const auto accepts = [](double value) { return value > Limits::min() && value < Limits::max(); };
+    return reportingNan(realQuantity(unit, defaultValue, {'f', decimals}, accepts, error));
+}
+bool isDegrees(double value)
+{
+    return value >= 0.0 && value <= 90.0;
 }
 
-/// The nine quantities: unit, default, format or decimals, lowest and highest value, problems.
+/// The nine quantities: unit, default, format or decimals, which values are valid, problems.
 struct AllRules {
     QuantityRules dBm = normalPositive(QStringLiteral("dBm"), -110.0, 9, "Illegal decibel.");
     QuantityRules decibel = normalPositive(QStringLiteral("dB"), -0.0, 6, "Illegal decibel.");
     QuantityRules degrees = // an angle, and yet reported as a decibel
-        reportingNan(realQuantity(QString(QChar(0x00B0)), -0.0, {'f', 1}, 0.0, 90.0, "Illegal decibel."));
-    QuantityRules length =
-        integerQuantity(QStringLiteral("m"), 0.0, {'f', 0}, -unlimited, nullptr, "Illegal unit (must be \"m\").");
-    QuantityRules power =
-        realQuantity(QStringLiteral("W"), -9.9, {'f', 15}, -60.0, unlimited, "Illegal power.", "Illegal unit.");
-    QuantityRules frequency = realQuantity(QStringLiteral("MHz"), -9.9, {'f', 6}, above(0.0), unlimited,
-                                           "Illegal frequency.", "Illegal unit.");
-    QuantityRules bandwidth = // its problems name another class
-        integerQuantity(QStringLiteral("kHz"), -1.0, {'g', 6}, 0.0, "XmlDfPrecisionType: Illegal precision.",
-                        "XmlDfPrecisionType: Illegal unit.");
-    QuantityRules fieldstrength = realQuantity(QStringLiteral("dBm"), -99999.999, {'f', 15}, above(-99999.989),
-                                               unlimited, "Illegal fieldstrength.", "Illegal unit.");
+        reportingNan(realQuantity(QString(QChar(0x00B0)), -0.0, {'f', 1}, isDegrees, "Illegal decibel."));
+    QuantityRules length = integerQuantity(
+        QStringLiteral("m"), 0, {'f', 0}, [](double) { return true; }, nullptr, "Illegal unit (must be \"m\").");
+    QuantityRules power = realQuantity(
+        QStringLiteral("W"), -9.9, {'f', 15}, [](double value) { return value >= -60.0; }, "Illegal power.",
+        "Illegal unit.");
+    QuantityRules frequency = realQuantity(
+        QStringLiteral("MHz"), -9.9, {'f', 6}, [](double value) { return value > 0.0; }, "Illegal frequency.",
+        "Illegal unit.");
+    QuantityRules bandwidth = integerQuantity(
+        QStringLiteral("kHz"), -1, {'g', 6}, [](double value) { return value >= 0.0; },
+        "XmlDfPrecisionType: Illegal precision.", "XmlDfPrecisionType: Illegal unit."); // names another class
+    QuantityRules fieldstrength = realQuantity(
+        QStringLiteral("dBm"), -99999.999, {'f', 15}, [](double value) { return value > -99999.989; },
+        "Illegal fieldstrength.", "Illegal unit.");
     QuantityRules sinad = normalPositive(QString(), 0.0, 6, "Illegal frequency."); // no frequency, and yet
 };
 

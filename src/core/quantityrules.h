@@ -5,48 +5,31 @@
 
 #include <QtCore/QString>
 
-#include <cmath>
-#include <limits>
-
 namespace ArvXml {
 
-/// What is particular to one measured quantity.
+/// What is specific to a measured quantity.
 struct QuantityRules {
-    bool isInteger;      ///< whether the text must be an integer, else a real number
-    QString unit;        ///< the fixed unit, or the one by default; empty when there is none
-    double defaultValue; ///< also stored for a text that is no number
-    NumberFormat format; ///< how it is written
-    double min;          ///< a value below is refused, as is one that is no number (NaN)
-    double max;          ///< a value above is refused
+    bool isInteger;      ///< whether the text must be an integer instead of a real number
+    QString unit;        ///< the fixed or the default unit; empty if there is none
+    double defaultValue; ///< also stored for a text that is not a number
+    NumberFormat format; ///< for writing
+    bool (*accepts)(double value);
     const char* valueError;
     const char* unitError;
-    bool reportsNan = false; ///< whether syntaxError() reports a value that is no number
-
-    bool accepts(double value) const { return value >= min && value <= max; }
+    bool reportsNan = false; ///< whether syntaxError() reports NaN
 };
 
-constexpr double unlimited = std::numeric_limits<double>::infinity();
-/// The numbers next to a limit that is itself refused.
-inline double above(double limit)
+inline QuantityRules realQuantity(const QString& unit, double defaultValue, NumberFormat format,
+                                  bool (*accepts)(double), const char* valueError, const char* unitError = nullptr)
 {
-    return std::nextafter(limit, unlimited);
+    return {false, unit, defaultValue, format, accepts, valueError, unitError};
 }
-inline double below(double limit)
+inline QuantityRules integerQuantity(const QString& unit, int defaultValue, NumberFormat format,
+                                     bool (*accepts)(double), const char* valueError, const char* unitError)
 {
-    return std::nextafter(limit, -unlimited);
+    return {true, unit, double(defaultValue), format, accepts, valueError, unitError};
 }
-
-inline QuantityRules realQuantity(const QString& unit, double defaultValue, NumberFormat format, double min, double max,
-                                  const char* valueError, const char* unitError = nullptr)
-{
-    return {false, unit, defaultValue, format, min, max, valueError, unitError};
-}
-inline QuantityRules integerQuantity(const QString& unit, double defaultValue, NumberFormat format, double min,
-                                     const char* valueError, const char* unitError)
-{
-    return {true, unit, defaultValue, format, min, unlimited, valueError, unitError};
-}
-/// The same, but a value that is no number is reported, too.
+/// The same, but NaN is reported as well.
 inline QuantityRules reportingNan(QuantityRules rules)
 {
     rules.reportsNan = true;

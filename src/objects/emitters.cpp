@@ -7,9 +7,9 @@ namespace ArvXml {
 
 static const QuantityRules& dfPrecisionRules()
 {
-    static const NeverDestroyed<QuantityRules> rules =
-        integerQuantity(QString(QChar(0x00B0)), -2.0, {'f', 0}, -1.0, "XmlDfPrecisionType: Illegal precision.",
-                        "XmlDfPrecisionType: Illegal unit.");
+    static const NeverDestroyed<QuantityRules> rules = integerQuantity(
+        QString(QChar(0x00B0)), -2, {'f', 0}, [](double value) { return value >= -1.0; },
+        "XmlDfPrecisionType: Illegal precision.", "XmlDfPrecisionType: Illegal unit.");
     return rules;
 }
 

@@ -27,9 +27,9 @@ XmlParameterSet& XmlParameterSet::operator=(XmlParameterSet&& other) noexcept
 void XmlParameterSet::processXml(QXmlStreamReader& reader, const QString& tagName)
 {
     const ParameterTable& table = *m_table;
+    ElementReader in(classname(), reader, tagName, compositeWording);
     if (table.isResetBeforeReading())
         reset();
-    ElementReader in(classname(), reader, tagName, compositeWording);
 
     int open = 0; // the first parameter that may still come
     const auto onStart = [&] {

@@ -33,7 +33,8 @@ enum GridResultMarks : Marks {
 
 constexpr Marks typeMark(XmlGridResultType::ResultType type)
 {
-    return type == XmlGridResultType::ResultUndefined ? 0 : Marks(FirstType) << (type - 1);
+    const bool isKnown = type >= XmlGridResultType::ResultFindSites && type <= XmlGridResultType::ResultBestSensorCov;
+    return isKnown ? Marks(FirstType) << (type - 1) : 0;
 }
 
 /// One kind of result: parameters in a wrapper, which are written together with the file name. The wrapper's tag is

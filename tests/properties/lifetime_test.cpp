@@ -858,6 +858,53 @@ private Q_SLOTS:
         });
     }
 
+    // The tag may be a text inside something that reading removes first.
+    void textInsideAsTag()
+    {
+        const auto readUnder = [](IXmlElement& element, const QString& xml, const QString& textInside) {
+            QXmlStreamReader reader(xml);
+            reader.readNextStartElement();
+            element.processXml(reader, textInside);
+            return reader.errorString();
+        };
+        const auto named = [](const char* text) {
+            XmlObjNameType name;
+            name.setObjName(QString::fromLatin1(text)); // not a constant: its memory goes with the last copy
+            return name;
+        };
+        const QString everyObject = QStringLiteral("<%1><DF><All/></DF><Reference>1</Reference></%1>");
+
+        XmlCmdDelete referring;
+        XmlReferenceType reference;
+        reference.setReference(QString::fromLatin1("Wipe"));
+        referring.setCmdReference(reference);
+        reference.setReference(QString());
+        QCOMPARE(readUnder(referring, everyObject.arg(QStringLiteral("Wipe")), referring.cmdReference().reference()),
+                 QString());
+        QVERIFY(referring.isValid());
+
+        XmlCmdDelete deleting;
+        {
+            XmlNameAllType emitter;
+            emitter.setObjName(named("Erase"));
+            deleting.setEmitter(emitter);
+        }
+        QCOMPARE(
+            readUnder(deleting, everyObject.arg(QStringLiteral("Erase")), deleting.emitter()->objName()->objName()),
+            QString());
+        QVERIFY(!deleting.hasEmitter() && deleting.hasDf());
+
+        XmlDeviceListType list;
+        {
+            XmlDeviceType device;
+            device.setObjName(named("Devices"));
+            list.setDeviceList({&device});
+        }
+        QCOMPARE(readUnder(list, QStringLiteral("<Devices/>"), list.deviceList().first()->objName()->objName()),
+                 QStringLiteral("in XmlDeviceListType (line 1, column 10): Unexpected token \"EndElement\"."));
+        QVERIFY(list.deviceList().isEmpty());
+    }
+
     void ownTextAsTag()
     {
         QStringList classes;

@@ -225,6 +225,7 @@ private Q_SLOTS:
     void useAfterFailedRead();
     void wrongPosition_data();
     void wrongPosition();
+    void unknownTypeAtAWrongPosition();
     void resetResult();
 
     void newValues();
@@ -789,6 +790,19 @@ void GridresultTest::wrongPosition()
              QStringLiteral("in XmlGridValuesType (%1): Parse error (wrong position).").arg(place));
     QCOMPARE(ElementTest::written(range, QStringLiteral("V")),
              QStringLiteral("<V version=\"3.0\" unit=\"\"><Min>1</Min><Max>2</Max></V>"));
+}
+
+// What a setter put into it is no type to begin with; the sanitizers would see it shifted by.
+void GridresultTest::unknownTypeAtAWrongPosition()
+{
+    for (const int type : {-1, 99}) {
+        XmlGridResultType result;
+        result.setType(static_cast<XmlGridResultType::ResultType>(type));
+        QXmlStreamReader reader(QStringLiteral("<GridResult type=\"CEP\"/>"));
+        result.processXml(reader, QStringLiteral("GridResult"));
+        QCOMPARE(reader.errorString(),
+                 QStringLiteral("in XmlGridResultType (line 1, column 0): Parse error (wrong position)."));
+    }
 }
 
 void GridresultTest::resetResult()
