@@ -1,5 +1,5 @@
 #include "pages.h"
-#include "support/samples.h"
+#include "support/wire.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
@@ -19,7 +19,7 @@
 /// - `xml CLASS`: an element of that class. It is read, acceptable, and written as it stands, indentation apart.
 ///   A further word says what else comes of it: `read` (it is written otherwise), `refused` (reading ends with the
 ///   error in the `text` block that follows), `judged` (it is read, and that block holds its problems).
-/// - `wire CLASS`: readings of new elements, told line by line, see Reading.
+/// - `wire CLASS`: readings of new elements, line by line, see tests/wire/README.md.
 /// - `sh`, `cmake`: for people; not checked.
 ///
 /// Anything else fails, so that nothing is left out.
@@ -80,58 +80,6 @@ QString withoutIndentation(QString xml)
 {
     static const QRegularExpression breaks(QStringLiteral(">\\s*\\n\\s*<"));
     return xml.replace(breaks, QStringLiteral("><")).trimmed();
-}
-
-/// The problems one by one, without the frames of the classes.
-QStringList problemsIn(const QString& syntaxError)
-{
-    static const QRegularExpression frame(QStringLiteral("^(\\+\\+\\+|---) in \\w+ (Begin:|End)$"));
-    QStringList problems;
-    const QStringList lines = syntaxError.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    for (const QString& line : lines) {
-        if (!frame.match(line).hasMatch())
-            problems.append(line);
-    }
-    return problems;
-}
-
-/// One reading in a `wire` block: a line `read XML`, perhaps lines `again XML` that read into the same element, and
-/// what comes of it. Lines that begin with # are for people.
-struct Reading {
-    QString tag;
-    QStringList xml;
-    QString error;        ///< line `error`: the reader's, after the last text; without the line there must be none
-    QStringList problems; ///< lines `problem`: all of them
-    QString valid;        ///< line `valid yes` or `valid no`: where it is not what error and problems say
-    QString written;      ///< line `written`; without the line, and without an error, the last text itself
-};
-
-/// Fails by a text that tells what is wrong.
-QString readings(const Block& block, std::vector<Reading>& found)
-{
-    for (const QString& line : block.lines) {
-        const QString word = line.section(QLatin1Char(' '), 0, 0);
-        const QString rest = line.mid(word.size()).trimmed();
-        if (word == QLatin1String("#"))
-            continue;
-        if (word == QLatin1String("read"))
-            found.push_back({tagIn(rest), {rest}, {}, {}, {}, {}});
-        else if (found.empty())
-            return QStringLiteral("does not begin with a reading: ") + line;
-        else if (word == QLatin1String("again"))
-            found.back().xml.append(rest);
-        else if (word == QLatin1String("error"))
-            found.back().error = rest;
-        else if (word == QLatin1String("problem"))
-            found.back().problems.append(rest);
-        else if (word == QLatin1String("valid") && (rest == QLatin1String("yes") || rest == QLatin1String("no")))
-            found.back().valid = rest;
-        else if (word == QLatin1String("written"))
-            found.back().written = rest;
-        else if (!line.isEmpty())
-            return QStringLiteral("is no line of a reading: ") + line;
-    }
-    return found.empty() ? QStringLiteral("shows no reading") : QString();
 }
 
 /// What runs under the name of bash or of a program.
@@ -311,28 +259,12 @@ private Q_SLOTS:
     void wire()
     {
         const Block& block = currentBlock();
-        std::vector<Reading> found;
-        const QString mistake = readings(block, found);
+        std::vector<Wire::Case> cases;
+        const QString mistake = Wire::parse(block.lines, block.mark.at(1), cases);
         QVERIFY2(mistake.isEmpty(), qPrintable(mistake));
-        for (const Reading& reading : found) {
-            const Samples::Element element = newElement(block.mark.at(1));
-            QVERIFY2(element, qPrintable(block.mark.at(1)));
-            QString error;
-            for (const QString& xml : reading.xml) {
-                QCOMPARE(error, QString()); // all but the last reading go well
-                error = ElementTest::readError(*element, xml);
-            }
-            QCOMPARE(error, reading.error);
-            const bool isTold = !reading.error.isEmpty() && reading.problems.isEmpty() && reading.valid.isEmpty();
-            if (!isTold) {
-                QCOMPARE(problemsIn(element->syntaxError()), reading.problems);
-                QCOMPARE(element->isValid(),
-                         reading.valid.isEmpty() ? reading.problems.isEmpty() : reading.valid == QLatin1String("yes"));
-            }
-            if (!reading.written.isEmpty())
-                QCOMPARE(ElementTest::written(*element, reading.tag), reading.written);
-            else if (reading.error.isEmpty())
-                QCOMPARE(ElementTest::written(*element, reading.tag), reading.xml.last());
+        for (const Wire::Case& wireCase : cases) {
+            const QString difference = Wire::check(wireCase);
+            QVERIFY2(difference.isEmpty(), qPrintable(wireCase.xml.last() + QLatin1Char('\n') + difference));
         }
     }
 

@@ -718,28 +718,6 @@ private Q_SLOTS:
         QCOMPARE(element->syntaxError(), QString());
     }
 
-    void errors()
-    {
-        QFETCH(const Kind*, kind);
-        QFETCH(QString, xml);
-        QFETCH(QString, error);
-        const auto element = kind->make();
-        QCOMPARE(readError(*element, xml), error);
-
-        // The element is none the worse for it.
-        QCOMPARE(element->isValid(), element->syntaxError().isEmpty());
-        const QString left = written(*element, QStringLiteral("S"));
-        QCOMPARE(written(*kind->copy(*element), QStringLiteral("S")), left);
-        kind->reset(*element);
-        QCOMPARE(written(*element, QStringLiteral("S")), kind->written({}));
-        QCOMPARE(readError(*element, xml), error);
-        QCOMPARE(written(*element, QStringLiteral("S")), left);
-        kind->reset(*element);
-        QCOMPARE(readError(*element, kind->document(kind->all())), QString());
-        QCOMPARE(written(*element, QStringLiteral("S")), kind->written(kind->all()));
-        QVERIFY(element->isValid());
-    }
-
     // Versions and positions
 
     void versions_data() { addVersionedKinds(); }
