@@ -13,7 +13,7 @@ install(TARGETS arvxml EXPORT ${arvxml_package}Targets
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/arvxml ${PROJECT_BINARY_DIR}/include/arvxml
     DESTINATION ${arvxml_include_dir} COMPONENT development)
 
-# Who links a static library links what it needs as well.
+# Users of a static library also link its dependencies.
 get_target_property(arvxml_type arvxml TYPE)
 set(arvxml_pc_requires "${arvxml_qt}Core >= ${arvxml_qt_version}")
 set(arvxml_pc_requires_private "${arvxml_qt}Network >= ${arvxml_qt_version}")
@@ -31,7 +31,7 @@ install(EXPORT ${arvxml_package}Targets NAMESPACE ${arvxml_package}:: DESTINATIO
     COMPONENT development)
 configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/ArvXmlConfig.cmake.in
     ${PROJECT_BINARY_DIR}/${arvxml_package}Config.cmake INSTALL_DESTINATION ${arvxml_package_dir})
-# Versions are semantic: 1.2 serves who asks for 1, 1.0 or 1.2, not who asks for 1.3, 2 or 0.9.
+# Versions are semantic: 1.2 satisfies requests for 1, 1.0 and 1.2, but not for 1.3, 2 or 0.9.
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/${arvxml_package}ConfigVersion.cmake
     COMPATIBILITY SameMajorVersion)
 install(FILES
@@ -39,7 +39,7 @@ install(FILES
     ${PROJECT_BINARY_DIR}/${arvxml_package}ConfigVersion.cmake
     DESTINATION ${arvxml_package_dir} COMPONENT development)
 
-# pkg-config finds the prefix from the place of its file, so that the tree can be moved.
+# The prefix is relative to the .pc file, so that the installed tree can be moved.
 file(RELATIVE_PATH arvxml_pc_to_prefix /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
 configure_file(${PROJECT_SOURCE_DIR}/cmake/arvxml.pc.in ${PROJECT_BINARY_DIR}/${arvxml_name}.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/${arvxml_name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig

@@ -1,5 +1,5 @@
-# Makes Debian packages of what is installed, one to run programs and one to develop them; see scripts/package. They
-# are to be made from a build for the prefix /usr, since the folder of the libraries depends on it.
+# Debian packages, one to run programs and one to develop them; see scripts/package. They require a build for the prefix
+# /usr, on which the library folder depends.
 
 if(ARVXML_QT STREQUAL "5")
     set(arvxml_runtime_package libarvxml${arvxml_abi})
@@ -21,10 +21,10 @@ set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # each package has one of its own
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # each package has its own
 set(arvxml_package_text
 "Every element of the protocol is a class that reads itself from a stream,
-writes itself to one, and tells whether its content is acceptable.
+writes itself to one, and checks whether its content is valid.
 ")
 
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${arvxml_runtime_package})
@@ -33,12 +33,12 @@ set(CPACK_DEBIAN_RUNTIME_DESCRIPTION
 "${PROJECT_DESCRIPTION} (Qt ${ARVXML_QT})
 ${arvxml_package_text}
 This package has the shared library.")
-# What it depends on is what the library was linked with, and other packages learn the same of it.
+# It depends on the libraries it is linked with, and other packages get their dependency on it in the same way.
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
 
-# The cache of libraries is renewed once for all packages that are installed together.
+# The library cache is updated once for all packages that are installed together.
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/cmake/triggers)
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME ${arvxml_development_package})

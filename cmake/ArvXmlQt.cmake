@@ -1,10 +1,10 @@
-# The Qt that is built on, and what is named after it: libraries for both can be installed side by side.
+# The Qt version, and the names that depend on it: libraries for both can be installed side by side.
 
 if(ARVXML_QT STREQUAL "5")
     set(arvxml_qt_version 5.15)
     set(arvxml_package ArvXml)                   # for find_package, and the namespace of its target
     set(arvxml_name arvxml)                      # of the library and for pkg-config
-    set(arvxml_include_suffix "")                # behind the include folder
+    set(arvxml_include_suffix "")                # after the include folder
     set(arvxml_qt_development_package qtbase5-dev)
 elseif(ARVXML_QT STREQUAL "6")
     set(arvxml_qt_version 6.4)

@@ -1,10 +1,9 @@
-# What all targets of the project have in common.
+# Settings of all targets of the project.
 
-# Everything a target of this project is compiled with: the language, the warnings, and the Qt
-# shortcuts that our own code does not use.
+# Sets the language and the warnings, and disables the Qt shortcuts that the project does not use.
 function(arvxml_configure_target target)
     set_target_properties(${target} PROPERTIES CXX_STANDARD 17 CXX_STANDARD_REQUIRED ON CXX_EXTENSIONS OFF
-                                               UNITY_BUILD OFF) # but for the library
+                                               UNITY_BUILD OFF) # except for the library
     target_compile_definitions(${target} PRIVATE
         QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY
         QT_NO_URL_CAST_FROM_STRING QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
@@ -23,7 +22,7 @@ function(arvxml_configure_target target)
     endif()
 endfunction()
 
-# With ARVXML_COVERAGE, clang counts what is reached in this target. Targets that only use it are not counted.
+# With ARVXML_COVERAGE, clang measures the coverage of this target, but not of targets that use it.
 function(arvxml_count_coverage target)
     if(ARVXML_COVERAGE)
         target_compile_options(${target} PRIVATE -fprofile-instr-generate -fcoverage-mapping)

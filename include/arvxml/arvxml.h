@@ -38,6 +38,7 @@
 #include "arvxml/resultgrid.h"
 #include "arvxml/resultinfo.h"
 #include "arvxml/signalpaths.h"
+#include "arvxml/site.h"
 #include "arvxml/siteorders.h"
 #include "arvxml/snapshot.h"
 #include "arvxml/stations.h"

@@ -3,11 +3,9 @@
 /// \file
 /// Emitters, direction finders and the precision of bearings.
 
-#include "arvxml/composite.h"
-#include "arvxml/geometry.h"
-#include "arvxml/names.h"
 #include "arvxml/quantities.h"
 #include "arvxml/signalpaths.h"
+#include "arvxml/site.h"
 
 namespace ArvXml {
 
@@ -24,24 +22,6 @@ public:
 
 private:
     const QuantityRules& rules() const override;
-};
-
-/// The base of sites: a name, a position and more, in this order. If the position is read first, the name is refused.
-class ARVXML_EXPORT XmlSite : public XmlVersionedComposite {
-public:
-    /// The name, tag "Name".
-    const XmlObjNameType* objName() const { return &m_objName; }
-    void setObjName(const XmlObjNameType& objName) { m_objName = objName; }
-
-    /// The position, tag "Position".
-    const XmlCoordinateType* position() const { return &m_position; }
-    void setPosition(const XmlCoordinateType& position) { m_position = position; }
-
-protected:
-    using XmlVersionedComposite::XmlVersionedComposite;
-
-    XmlObjNameType m_objName;
-    XmlCoordinateType m_position;
 };
 
 /// A known transmitter; all children are required, in this order:

@@ -3,11 +3,8 @@
 /// \file
 /// Stations and receivers.
 
-#include "arvxml/composite.h"
 #include "arvxml/emitters.h"
-#include "arvxml/geometry.h"
-#include "arvxml/names.h"
-#include "arvxml/signalpaths.h"
+#include "arvxml/site.h"
 
 namespace ArvXml {
 

@@ -1,8 +1,8 @@
 # shellcheck shell=bash
-# To be sourced: another Debian than this one, in a folder.
+# To be sourced: runs commands in another Debian, installed in a folder.
 
-# in_debian SUITE ARCHITECTURE COMMAND: runs the command in a copy of the sources, in a tree with that Debian. The tree
-# is made when it is missing, and kept with what is built in it: only what has changed is built again.
+# in_debian SUITE ARCHITECTURE COMMAND: runs the command in a copy of the sources, in a tree with that Debian. The tree is
+# created if necessary, and kept with everything built in it, so that only changes are rebuilt.
 in_debian() {
     local suite=$1 architecture=$2 command=$3 as_root=() tree
     [ "$(id -u)" -eq 0 ] || as_root=(sudo)
@@ -16,7 +16,7 @@ in_debian() {
     "${as_root[@]}" mkdir -p "$tree/arvxml"
     git ls-files -z --cached --others --exclude-standard | tar --null --files-from=- --create --ignore-failed-read |
         "${as_root[@]}" tar --extract --directory="$tree/arvxml"
-    # Of the kernel's file systems the tools of the build want these two.
+    # The build tools need these two file systems.
     "${as_root[@]}" env TREE="$tree" COMMAND="cd /arvxml && $command" unshare --mount bash -euc '
         mount -t proc proc "$TREE/proc"
         mount --bind /dev "$TREE/dev"

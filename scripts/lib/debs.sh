@@ -1,8 +1,8 @@
 # shellcheck shell=bash
-# To be sourced: how the Debian packages are made.
+# To be sourced: builds the Debian packages.
 
-# make_debs QT BUILD_DIR CMAKE_ARGUMENT...: builds the library on that Qt for the prefix /usr and makes its packages in
-# BUILD_DIR/packages, which holds nothing else afterwards. To be called in the root of the sources.
+# make_debs QT BUILD_DIR CMAKE_ARGUMENT...: builds the library with that Qt for the prefix /usr, and its packages in
+# BUILD_DIR/packages, which then contains nothing else. Call it in the root of the sources.
 make_debs() {
     local qt=$1 build_dir=$2
     shift 2

@@ -1,16 +1,16 @@
 # shellcheck shell=bash
-# To be sourced: the packages that a script needs, on Debian and its relatives.
+# To be sourced: installs the packages that a script needs, on Debian and its derivatives.
 
-# need_packages PACKAGE...: installs those that are missing. Where all are there, nothing is touched
-# and no rights are needed.
+# need_packages PACKAGE...: installs those that are missing. If there are none, it changes nothing and needs no
+# privileges.
 need_packages() {
     local package missing=()
     if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
-        echo "This is no Debian machine; going on as if these were installed: $*"
+        echo "This is not Debian; assuming that these packages are installed: $*"
         return 0
     fi
     for package in "$@"; do
-        # The status is asked for, since a removed package may still be known.
+        # Check the status, since a removed package may still be known.
         if [[ $(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null) != installed ]]; then
             missing+=("$package")
         fi
@@ -22,7 +22,7 @@ need_packages() {
     local as_root=()
     if [[ $(id -u) -ne 0 ]]; then
         if ! command -v sudo >/dev/null; then
-            echo "These packages are missing, and there is no sudo to install them: ${missing[*]}" >&2
+            echo "These packages are missing, and sudo is not available to install them: ${missing[*]}" >&2
             return 1
         fi
         as_root=(sudo)

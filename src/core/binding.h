@@ -10,7 +10,7 @@
 #include <type_traits>
 
 /// \file
-/// What stands under one tag of an element, and what the operations do with it.
+/// Bindings: what each operation does with the content of one tag of an element.
 
 namespace ArvXml {
 
@@ -23,7 +23,7 @@ inline constexpr bool isOptionalChild<OptionalChild<T>> = true;
 template <typename T>
 inline constexpr bool isOptionalChild<const OptionalChild<T>> = true;
 
-/// Calls \a function with each child held in \a member: one that is always present, one that may be absent, or a list.
+/// Calls \a function with each child in \a member: a child that is always present, an optional child, or a list.
 template <typename Member, typename Function>
 void forEachChild(Member& member, Function function)
 {
@@ -52,7 +52,7 @@ bool isMemberValid(const Member& member)
     return isValid;
 }
 
-/// The problems of all children held in \a member, one after the other.
+/// The problems of all children in \a member.
 template <typename Member>
 QString memberError(Member& member)
 {
@@ -75,7 +75,7 @@ void resetMember(Member& member)
         member.clear();
 }
 
-/// How many children are held in \a member; one that is always present does not count.
+/// The number of children in \a member, not counting one that is always present.
 template <typename Member>
 int memberCount(const Member& member)
 {
@@ -85,32 +85,32 @@ int memberCount(const Member& member)
     return count;
 }
 
-/// What kind of content a tag has.
+/// The kind of content of a tag.
 struct ContentKind {
     enum Kind { Empty, Text, Integer, Real, Time, Choice, Element, Wrapper, Anything };
 
     Kind kind = Empty;
-    const EnumerationTexts* texts = nullptr;          ///< those of a choice
-    std::unique_ptr<XmlElement> (*newElement)() = {}; ///< makes an object of an element's class
+    const EnumerationTexts* texts = nullptr;          ///< of a choice
+    std::unique_ptr<XmlElement> (*newElement)() = {}; ///< creates an object of the class of an element
 };
 
-/// Binds what stands under one tag to its owner. Everything not set does nothing.
+/// Binds the content of one tag to its owner. Functions that are not set do nothing.
 struct Binding {
     ContentKind holds;
-    /// Called on the child's start tag.
+    /// Called at the start tag of the child.
     void (*read)(XmlElementBase& owner, ElementReader& in, const QString& tag) = [](auto&, auto&, auto&) {};
     void (*write)(const XmlElementBase& owner, QXmlStreamWriter& writer, const QString& tag) = [](auto&, auto&, auto&) {
     };
     bool (*isValid)(const XmlElementBase& owner) = [](auto&) { return true; };
     QString (*syntaxError)(XmlElementBase& owner) = [](auto&) { return QString(); };
     void (*reset)(XmlElementBase& owner) = [](auto&) {};
-    /// How many children are held that could be absent.
+    /// The number of children, not counting one that is always present.
     int (*count)(const XmlElementBase& owner) = [](auto&) { return 0; };
-    /// The tag under which it is written, where that differs from the tag read.
+    /// The tag for writing, if it differs from the one for reading.
     const char* writtenTag = nullptr;
 };
 
-/// What a pointer to a member belongs to, and what it points to.
+/// The class and the type of a pointer to a member.
 template <typename Pointer>
 struct PointerToMember;
 template <typename T, typename Class>
@@ -119,7 +119,7 @@ struct PointerToMember<T Class::*> {
     using Member = T;
 };
 
-/// The class of the children held in a member.
+/// The class of the children in a member.
 template <typename Member>
 struct ChildOf {
     using Type = Member;
@@ -133,7 +133,7 @@ struct ChildOf<OwnedList<T, Pointers>> {
     using Type = T;
 };
 
-/// The object and the member behind a row; rows know their owner only as an element.
+/// The member of an owner, of which bindings only know that it is an element.
 template <auto Member>
 auto& memberOf(XmlElementBase& owner)
 {
@@ -147,7 +147,7 @@ const auto& memberOf(const XmlElementBase& owner)
 
 // Bindings of child elements
 
-/// A member in all but reading, which differs.
+/// Everything except reading.
 template <auto Member>
 Binding heldIn()
 {
@@ -177,7 +177,7 @@ Binding child()
     return binding;
 }
 
-/// An optional child that is made when absent and read in place otherwise.
+/// An optional child that is created if absent, and read in place otherwise.
 template <auto Member>
 Binding reused()
 {
@@ -188,7 +188,7 @@ Binding reused()
     return binding;
 }
 
-/// An optional child that is replaced by a new one on reading.
+/// An optional child that is replaced by a new one when read.
 template <auto Member>
 Binding renewed()
 {
@@ -199,7 +199,7 @@ Binding renewed()
     return binding;
 }
 
-/// One of two optional children of which only one is kept on reading: reading it removes the other.
+/// One of two optional children: reading it removes the other.
 template <auto Member, auto Other>
 Binding readInsteadOf()
 {
@@ -211,7 +211,7 @@ Binding readInsteadOf()
     return binding;
 }
 
-/// Repeated children: each one read is appended, also when its reading failed.
+/// Repeated children: each one read is appended, even if reading it fails.
 template <auto Member>
 Binding items()
 {
@@ -222,9 +222,9 @@ Binding items()
     return binding;
 }
 
-// Bindings of values. Owner is the class of the element, which is called with the function named.
+// Bindings of values. Owner is the class of the element, with which the functions are called.
 
-/// A text that \a Take gets (and, if it wants to raise errors, the reader); it is not written.
+/// A text that is passed to \a Take, with the reader if it can raise errors; it is not written.
 template <typename Owner, auto Take>
 Binding takenBy()
 {
@@ -239,7 +239,7 @@ Binding takenBy()
     return binding;
 }
 
-/// A text: \a Take gets the one read, \a Give returns the one to write.
+/// A text: \a Take receives the text read, \a Give returns the text to write.
 template <typename Owner, auto Take, auto Give>
 Binding text()
 {
@@ -250,7 +250,7 @@ Binding text()
     return binding;
 }
 
-/// Something that \a Write writes; its reading is the model's business.
+/// Content written by \a Write; reading is up to the model.
 template <typename Owner, auto Write>
 Binding writtenBy()
 {
@@ -261,7 +261,7 @@ Binding writtenBy()
     return binding;
 }
 
-/// An empty child that says something by standing there: \a Function is called.
+/// An empty child: \a Function is called when it is read.
 template <typename Owner, auto Function>
 Binding called()
 {
@@ -272,7 +272,7 @@ Binding called()
     return binding;
 }
 
-/// A tag that is only entered: the element reads what it holds, and its end tag, itself.
+/// A wrapper whose content and end tag the element reads itself.
 inline Binding entered()
 {
     Binding binding;
@@ -280,7 +280,7 @@ inline Binding entered()
     return binding;
 }
 
-/// A child whose content means nothing to us.
+/// A child that is ignored.
 inline Binding skipped()
 {
     Binding binding;
@@ -289,16 +289,16 @@ inline Binding skipped()
     return binding;
 }
 
-// Departures: the same, but ...
+// Deviations: the same, but ...
 
-/// ... its content is of another kind than the word says.
+/// ... its content is of another kind.
 inline Binding as(ContentKind::Kind kind, Binding binding)
 {
     binding.holds.kind = kind;
     return binding;
 }
 
-/// ... its text is one of \a texts.
+/// ... its text is one of these \a texts.
 inline Binding asChoice(const EnumerationTexts& texts, Binding binding)
 {
     binding.holds.kind = ContentKind::Choice;
@@ -306,28 +306,28 @@ inline Binding asChoice(const EnumerationTexts& texts, Binding binding)
     return binding;
 }
 
-/// ... reset() leaves it as it is.
+/// ... reset() does not change it.
 inline Binding keptByReset(Binding binding)
 {
     binding.reset = Binding().reset;
     return binding;
 }
 
-/// ... syntaxError() does not report the child in its place, or not at all.
+/// ... syntaxError() reports it elsewhere, or not at all.
 inline Binding unreported(Binding binding)
 {
     binding.syntaxError = Binding().syntaxError;
     return binding;
 }
 
-/// ... isValid() does not look at the child.
+/// ... isValid() ignores it.
 inline Binding unjudged(Binding binding)
 {
     binding.isValid = Binding().isValid;
     return binding;
 }
 
-/// ... it is written under another tag than it is read.
+/// ... it is written with another tag than it is read.
 inline Binding writtenAs(const char* tag, Binding binding)
 {
     binding.writtenTag = tag;

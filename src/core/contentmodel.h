@@ -8,11 +8,11 @@
 #include <vector>
 
 /// \file
-/// Content models: which children an element has, in which order, how often, and what they are bound to.
+/// Content models: the children of an element, their order, how often they appear, and their bindings.
 ///
-/// Nearly all are made of particles: sequence, choice (oneOf) and repetition. Where the protocol is odd, a model lists
-/// rows instead. A row is a child tag with a gate: which marks must not, or must, be set when the child comes, and
-/// which it sets. Marks are bits that an element names for itself, most often one for each child ("has been read").
+/// Most are made of particles: sequence, choice (oneOf) and repetition. Where the protocol is odd, a model lists rows
+/// instead. A row is a child tag with a gate: the marks that must not, or must, be set when the child is read, and
+/// those that it sets. Marks are bits named by the element, usually one for each child ("has been read").
 
 namespace ArvXml {
 
@@ -20,7 +20,7 @@ using Marks = quint32;
 
 enum class Occurrence { Optional, Required, Repeated, AtLeastOnce };
 
-/// A child tag, its gate, and what is bound to it.
+/// A child tag with its binding and its gate.
 struct Row {
     QString tag;
     Binding binding;
@@ -29,8 +29,8 @@ struct Row {
     Marks bars = 0;
     Marks needs = 0;
     Occurrence occurrence = Occurrence::Optional;
-    int choice = 0;  ///< rows with the same number, other than 0, exclude each other
-    QString wrapper; ///< the tag around it, if the element reads that itself
+    int choice = 0;  ///< rows with the same number exclude each other; 0 for none
+    QString wrapper; ///< the tag around it, if the element reads that tag itself
     bool isReportedFirst = false;
 
     Row(const char* name, const Binding& held)
@@ -47,8 +47,7 @@ struct Row {
     /// The child is refused unless all of these are set.
     Row& onlyAfter(Marks marks) { return needs = marks, *this; }
 
-    // How often it comes, and which tag is around it, for those who read the model: the gates alone decide what is
-    // read.
+    // These only describe how often the child appears, and inside which tag: the gates alone decide what is read.
     Row& required() { return occurrence = Occurrence::Required, *this; }
     Row& repeated() { return occurrence = Occurrence::Repeated, *this; }
     Row& atLeastOnce() { return occurrence = Occurrence::AtLeastOnce, *this; }
@@ -75,18 +74,18 @@ struct WrapperEnd {
     WrapperEnd& onlyAfter(Marks marks) { return needs = marks, *this; }
     WrapperEnd& clears(Marks marks) { return cleared = marks, *this; }
     WrapperEnd& marks(Marks marks) { return sets = marks, *this; }
-    /// What happens then.
+    /// Sets a function to call.
     WrapperEnd& then(void (*action)(XmlElementBase&)) { return effect = action, *this; }
 };
 
-/// A particle of a content model: a child, or a choice between several, with how often it may come.
+/// A particle of a content model: a child or a choice, and how often it may appear.
 struct Particle {
     struct Child {
         const char* tag;
         Binding binding;
     };
 
-    std::vector<Child> alternatives; ///< which share one place: only one of them comes
+    std::vector<Child> alternatives; ///< of which only one appears
     Occurrence occurrence;
 };
 inline Particle required(const char* tag, const Binding& binding)
@@ -97,12 +96,12 @@ inline Particle optional(const char* tag, const Binding& binding)
 {
     return {{{tag, binding}}, Occurrence::Optional};
 }
-/// Any number of them, none included.
+/// Any number, including none.
 inline Particle repeated(const char* tag, const Binding& binding)
 {
     return {{{tag, binding}}, Occurrence::Repeated};
 }
-/// One of these children, and only one.
+/// Exactly one of these children.
 inline Particle oneOf(std::vector<Particle::Child> alternatives)
 {
     return {std::move(alternatives), Occurrence::Required};
@@ -113,7 +112,7 @@ inline Particle optional(Particle particle)
     return particle;
 }
 
-/// The content model of an element, with its attributes. Built once for each class, by chained calls.
+/// The content model of an element, including its attributes. Built once for each class, by chained calls.
 class ContentModel {
 public:
     /// Handles character data; returns the marks to set.
@@ -124,9 +123,9 @@ public:
     {
     }
 
-    // What stands in the start tag
+    // Start tag
 
-    /// How attributes other than the version are read, and written behind it.
+    /// Functions to read and write the attributes other than the version, which is written first.
     ContentModel& attributes(void (*read)(XmlElementBase& owner, ElementReader& in),
                              void (*write)(const XmlElementBase& owner, QXmlStreamWriter& writer))
     {
@@ -134,7 +133,7 @@ public:
         m_writeAttributes = write;
         return *this;
     }
-    /// Another version than "1.0" is an error while reading, not only when judged.
+    /// Versions other than "1.0" are refused on reading, instead of being reported as a problem.
     ContentModel& refusesOtherVersions()
     {
         m_refusesOtherVersions = true;
@@ -149,38 +148,38 @@ public:
 
     // Particles
 
-    /// Children that come in this order, each at most once but for the repeated: a child is refused once it or one
-    /// after it has been read. The end tag needs the required ones; so a required child may be passed over at first,
-    /// but the end tag is refused then. Given again, the particles follow those before.
+    /// Children in this order, each at most once unless repeated: a child is refused after itself or a later one. A
+    /// required child may be passed over, but then the end tag is refused. Further calls add particles after these.
     ContentModel& sequence(std::initializer_list<Particle> particles);
-    /// The same, but a child is refused, too, until the required ones before it have been read.
+    /// The same, but a child is also refused until the required ones before it have been read.
     ContentModel& strictSequence(std::initializer_list<Particle> particles);
-    /// Children in this order inside the wrapper \a tag, while \a open is set; none is required.
+    /// Children in this order inside the wrapper \a tag, while the mark \a open is set; none is required.
     ContentModel& within(const char* tag, Marks open, std::initializer_list<Particle> particles);
-    /// A child that may come at any place, any number of times.
+    /// A child that may appear at any place, any number of times.
     ContentModel& anywhere(const char* tag, const Binding& binding);
-    /// At least one \a tag, any number of them; reading deletes those held. \a tooFew is the problem of an empty list.
+    /// One or more children with this \a tag; reading deletes the existing ones first. \a tooFew is the problem of an
+    /// empty list.
     ContentModel& listOf(const char* tag, const Binding& binding, const char* tooFew);
 
-    // Rows with gates of their own
+    // Rows
 
-    /// The children in the order of writing. Particles that follow get marks above those named here.
+    /// Children in the order of writing. Particles added later get marks other than those used here.
     ContentModel& rows(std::initializer_list<Row> rows);
-    /// The end tag may come when all of \a marks are set. Given several times: when any of them fits.
+    /// The end tag is accepted if all of \a marks are set. Of several such conditions, one is enough.
     ContentModel& completeWith(Marks marks) { return completeWhen(marks, marks); }
-    /// The end tag may come when of \a among exactly \a marks are set.
+    /// The end tag is accepted if, of the marks in \a among, exactly \a marks are set.
     ContentModel& completeWhen(Marks among, Marks marks)
     {
         m_completions.push_back({among, marks});
         return *this;
     }
-    /// The end tag may come when the element, as it has been read until then, says so.
+    /// A further condition for the end tag, on what has been read.
     ContentModel& completeIf(bool (*condition)(const XmlElementBase& owner))
     {
         m_condition = condition;
         return *this;
     }
-    /// The end tag is refused, whatever has been read.
+    /// The end tag is always refused.
     ContentModel& neverComplete()
     {
         m_completions.clear();
@@ -191,28 +190,28 @@ public:
         m_wrapperEnds.insert(m_wrapperEnds.end(), ends);
         return *this;
     }
-    /// The marks that are set once the start tag has been read.
+    /// A function that returns the marks to begin with, called after the start tag has been read.
     ContentModel& startsWith(Marks (*marks)(const XmlElementBase& owner))
     {
         m_firstMarks = marks;
         return *this;
     }
-    /// Called when the element's own end tag has been accepted.
+    /// A function to call when the end tag of the element has been accepted.
     ContentModel& whenComplete(void (*effect)(XmlElementBase&))
     {
         m_whenComplete = effect;
         return *this;
     }
-    /// Character data is ignored unless this is given.
+    /// A function for character data, which is ignored otherwise.
     ContentModel& onCharacters(CharactersHandler handler)
     {
         m_onCharacters = handler;
         return *this;
     }
 
-    // Reports
+    // Problems
 
-    /// syntaxError() reports these children first, in this order, and the others as they are written.
+    /// syntaxError() reports these children first, in this order, then the others in the order of writing.
     ContentModel& reportedFirst(std::initializer_list<const char*> tags);
 
     const std::vector<Row>& allRows() const { return m_rows; }
@@ -228,14 +227,14 @@ private:
     };
 
     bool mayEnd(const XmlElementBase& owner, Marks read) const;
-    /// Adds the rows of a particle, which are refused unless all of \a needed are set.
+    /// Adds the rows of a particle, refused unless all of \a needed are set.
     void addParticle(const Particle& particle, Marks needed, const QString& wrapper = {});
 
     const Wording& m_wording;
     std::vector<Row> m_rows;
-    std::vector<std::size_t> m_reportedFirst; ///< where these rows stand
-    Marks m_nextMark = 1;                     ///< of the particles
-    Marks m_requiredParticles = 0;            ///< all marks of those
+    std::vector<std::size_t> m_reportedFirst; ///< indexes of rows
+    Marks m_nextMark = 1;                     ///< for the next particle
+    Marks m_requiredParticles = 0;            ///< the marks of the required ones
     int m_choices = 0;
     std::vector<Completion> m_completions;
     std::vector<WrapperEnd> m_wrapperEnds;

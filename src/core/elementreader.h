@@ -10,8 +10,8 @@
 
 namespace ArvXml {
 
-/// How an element words the refusal of a tag; "%1" is the name of the tag. Three families speak for
-/// nearly all elements.
+/// The messages with which an element refuses a tag; "%1" is the name of the tag. Nearly all elements use one of three
+/// wordings.
 struct Wording {
     const char* start;
     const char* end;
@@ -19,15 +19,15 @@ struct Wording {
 
 /// Values without children.
 constexpr Wording leafWording = {"Unexpected token \"StartElement\"", "Unexpected token \"EndElement\""};
-/// Lists, and the composites that speak like them.
+/// Lists, and some composites.
 constexpr Wording listWording = {"Unexpected element \"%1\"", "Unexpected token \"EndElement\""};
-/// Composites that name the tag either way.
+/// Composites that name both tags.
 constexpr Wording compositeWording = {"Unexpected token \"StartElement\": %1", "Unexpected token \"EndElement\": %1"};
 
-/// A piece of text that belongs to the stream.
+/// A text that belongs to the stream.
 using StreamText = decltype(QXmlStreamReader().text());
 
-/// The names of the attributes that several elements have.
+/// The names of attributes that several elements have.
 inline QString versionAttribute()
 {
     return QStringLiteral("version");
@@ -44,8 +44,7 @@ inline QString typeAttribute()
 /// Raises "in CLASS (line L, column C): MESSAGE." on \a reader, in place of any earlier error.
 void raiseError(QXmlStreamReader& reader, const QString& className, const QString& message);
 
-/// One reading of one element: the stream, the tag under which the element stands, and the errors
-/// raised in the element's name.
+/// Reads one element: gives access to the stream, knows the tag of the element, and raises errors in its name.
 class ElementReader {
 public:
     ElementReader(const QString& className, QXmlStreamReader& reader, const QString& tagName, const Wording& wording)
@@ -61,35 +60,34 @@ public:
 
     QXmlStreamReader& stream() { return m_reader; }
 
-    /// Raises \a message on the stream in the element's name; this ends every loop that reads it.
+    /// Raises \a message on the stream in the name of the element, which ends all loops that read the stream.
     void fail(const QString& message);
 
-    /// Whether the stream stood on a start tag when the reading began; raises an error if not.
+    /// Whether the stream was at a start tag when reading began; raises an error otherwise.
     bool requireStartTag();
 
     bool hasAttribute(const QString& name) { return attributeNamed(name) != nullptr; }
-    /// The attribute's text, empty when absent; good until the next token is read.
+    /// The text of the attribute, empty if absent; valid until the next token is read.
     StreamText attribute(const QString& name);
-    /// The same, and raises an error when it is empty.
+    /// The same, but raises an error if it is empty.
     StreamText requireAttribute(const QString& name);
-    /// Raises the error of an attribute whose text means nothing.
+    /// Raises the error for an attribute with an unknown text.
     void refuseAttribute(const QString& name);
 
-    /// The whole text of the child element on whose start tag the stream stands. An element inside
-    /// it is an error of the stream; the text read until then is returned.
+    /// The whole text of the child element at whose start tag the stream is. An element inside it is an error of the
+    /// stream; the text before it is returned.
     QString childText() { return m_reader.readElementText(); }
 
-    /// Skips the child element on whose start tag the stream stands, with all it contains.
+    /// Skips the child element at whose start tag the stream is, with its content.
     void skipChild() { m_reader.skipCurrentElement(); }
 
     void refuseStart() { refuseTag(m_wording.start); }
     void refuseEnd() { refuseTag(m_wording.end); }
 
-    /// Whether the stream stands on a tag of the element's own name.
+    /// Whether the stream is at a tag with the name of the element.
     bool atOwnTag() const { return isSameText(m_reader.name(), QStringView(m_tagName.data(), m_tagName.size())); }
 
-    /// Goes through the tokens of the element until \a onEnd says that it is complete, or an error
-    /// ends the reading.
+    /// Reads the tokens of the element until \a onEnd returns that it is complete, or an error occurs.
     template <typename OnStart, typename OnEnd, typename OnCharacters>
     void readTokens(OnStart onStart, OnEnd onEnd, OnCharacters onCharacters)
     {
@@ -109,7 +107,7 @@ public:
                 onCharacters();
                 if (m_hasFailed)
                     return;
-                continue; // nobody but this element can have raised an error
+                continue; // only this element can have raised an error
             default:
                 refuseOtherToken();
                 break;
@@ -119,7 +117,7 @@ public:
         }
     }
 
-    /// Reads an element without children: \a onText gets each piece of its text.
+    /// Reads an element without children, calling \a onText for each piece of text.
     template <typename OnText>
     void readLeaf(OnText onText)
     {
@@ -140,14 +138,14 @@ private:
 
     const QString& m_className;
     QXmlStreamReader& m_reader;
-    /// A copy, since the caller's may be a text of the very element that is read. A QString would share it, which
-    /// takes two atomic operations, more than these few characters.
+    /// A copy, since the caller's may belong to the element being read. Copying these few characters is faster than the
+    /// two atomic operations of a shared QString.
     const QVarLengthArray<QChar, 32> m_tagName;
     const Wording& m_wording;
     const bool m_atStartTag;
     bool m_hasFailed = false;
-    /// A copy of the start tag's attributes while they are looked at. It must be gone before the next token
-    /// is read: the stream would otherwise have to detach its own.
+    /// A copy of the attributes of the start tag. It must be gone before the next token is read: the stream would
+    /// otherwise have to detach its own.
     std::optional<QXmlStreamAttributes> m_attributes;
 };
 

@@ -10,12 +10,12 @@
 
 namespace ArvXml {
 
-/// The accepted texts of an enumeration, the text of value 1 first.
+/// The texts of an enumeration, starting with that of value 1.
 class EnumerationTexts {
 public:
     explicit EnumerationTexts(std::initializer_list<const char*> texts);
 
-    /// The value of \a text, 0 when it is not among the texts.
+    /// The value of \a text, 0 if it is not one of the texts.
     template <typename Text>
     int value(const Text& text) const
     {
@@ -25,17 +25,17 @@ public:
         }
         return 0;
     }
-    /// The text of \a value, "UNDEFINED" when it has none.
+    /// The text of \a value, "UNDEFINED" if it has none.
     const QString& text(int value) const;
 
 private:
     std::vector<QString> m_texts;
 };
 
-/// What is particular to one enumeration element.
+/// What is specific to an enumeration.
 struct EnumerationRules {
     EnumerationTexts texts;
-    const char* unknownText;    ///< raised for a text that is not among them
+    const char* unknownText;    ///< the error for other texts
     const char* undefinedError; ///< the problem of value 0
 };
 

@@ -6,9 +6,8 @@
 
 namespace ArvXml {
 
-/// A constant that lives to the very end of the program, for tables made when they are first used. Elements may be
-/// used by the destructors of globals, by threads that outlive main(), and by handlers of their exit; a table with a
-/// destructor would be gone by then.
+/// A constant that is never destroyed, for tables created on first use. Elements can be used by destructors of globals,
+/// by threads that outlive main(), and by thread exit handlers, when a table with a destructor would be gone.
 template <typename T>
 class NeverDestroyed {
 public:

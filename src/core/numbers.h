@@ -5,34 +5,33 @@
 #include <optional>
 
 /// \file
-/// The one place where numbers become text and text becomes numbers. Plain decimals, which is nearly all
-/// that the protocol carries, go a short way; everything else goes Qt's. Both give the same bits and the
-/// same text, and accept the same.
+/// Conversion between numbers and texts. Plain decimals, nearly all numbers in documents, take a fast path; all others
+/// are left to Qt. Both accept the same texts and give the same results, to the bit.
 
 namespace ArvXml {
 
-/// How a number is written: 'f' with so many decimals, or 'g' with so many significant digits.
+/// The format of a number: 'f' with a number of decimals, or 'g' with a number of significant digits.
 struct NumberFormat {
     char format;
     int digits;
 };
 
-/// As QString::number() writes it.
+/// The same as QString::number().
 QString numberText(double value, NumberFormat format);
-/// The same by the short way; null for a number or format that needs Qt's.
+/// The fast path of this; null for numbers and formats that are left to Qt.
 QString fastText(double value, NumberFormat format);
 inline QString numberText(int value)
 {
     return QString::number(value);
 }
 
-/// The number that \a begin to \a end say in plain decimals, `-?[0-9]+(\.[0-9]+)?`, of up to nineteen digits
-/// without the zeros at the end. Nothing for every other text.
+/// The number between \a begin and \a end, if they are plain decimals, `-?[0-9]+(\.[0-9]+)?`, of up to nineteen digits
+/// not counting trailing zeros; nothing for all other texts.
 std::optional<double> fastReal(const QChar* begin, const QChar* end);
 /// The same for `-?[0-9]+` of at most nine digits.
 std::optional<int> fastInteger(const QChar* begin, const QChar* end);
 
-/// A real number in the C locale; 0.0 when \a text is none.
+/// The real number in \a text, in the C locale; 0.0 if it is not one.
 template <typename Text>
 double toReal(const Text& text, bool* ok = nullptr)
 {
@@ -43,7 +42,7 @@ double toReal(const Text& text, bool* ok = nullptr)
     }
     return text.toDouble(ok);
 }
-/// A decimal integer; 0 when \a text is none.
+/// The decimal integer in \a text; 0 if it is not one.
 template <typename Text>
 int toInteger(const Text& text, bool* ok = nullptr)
 {

@@ -2,7 +2,7 @@
 
 namespace ArvXml {
 
-/// How long a text may be, and what is said when it is not.
+/// The maximum length of a text, and the problems with its length.
 struct TextRules {
     int max;
     const char* tooShort;

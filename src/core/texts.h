@@ -5,12 +5,12 @@
 #include <cstring>
 
 /// \file
-/// Texts that are compared and copied for every element read.
+/// Functions to compare and copy texts, called for every element read.
 
 namespace ArvXml {
 
-/// Whether two texts are the same. Names and attributes are short; most are either the very same constant,
-/// or differ in length or in the first characters.
+/// Whether two texts are equal. Names and attributes are short; most are either the same constant, or differ in length
+/// or in the first characters.
 inline bool isSameText(QStringView text, QStringView other)
 {
     const auto size = text.size();
@@ -20,7 +20,7 @@ inline bool isSameText(QStringView text, QStringView other)
     const QChar* const b = other.data();
     if (a == b)
         return true;
-    const auto differ = [a, b](qsizetype at) { // in the four characters from there
+    const auto differ = [a, b](qsizetype at) { // in the four characters at that index
         quint64 x = 0;
         quint64 y = 0;
         std::memcpy(&x, a + at, sizeof x);
@@ -38,18 +38,18 @@ inline bool isSameText(QStringView text, QStringView other)
         if (differ(at))
             return false;
     }
-    return !differ(size - 4); // the last four may have been looked at in part
+    return !differ(size - 4); // may overlap with those already compared
 }
 
-/// A text of the stream, to keep. With Qt 5, its toString() would share the stream's own buffer when that holds nothing
-/// else, with room for much more, and the stream would have to make itself another.
+/// A copy of a text of the stream. In Qt 5, toString() may instead share the whole buffer of the stream, which is
+/// larger than the text, and which the stream would have to allocate again.
 template <typename Text>
 QString detachedCopy(const Text& text)
 {
     return QString(text.data(), static_cast<int>(text.size()));
 }
 
-/// Keeps \a text in \a held, unless it is empty. A constant that says the same stays: it takes no memory.
+/// Assigns \a text to \a held, unless it is empty. An equal text stays: it may be a constant, which takes no memory.
 template <typename Text>
 void assignUnlessEmpty(const Text& text, QString& held)
 {

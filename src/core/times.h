@@ -5,16 +5,16 @@
 
 namespace ArvXml {
 
-/// A time in ISO 8601, as QDateTime::fromString() reads it; invalid when \a text is none. The plain form, such
-/// as 2024-03-05T14:07:09, goes a short way.
+/// The ISO 8601 time in \a text, as QDateTime::fromString() reads it; invalid if it is not one. The plain form, such as
+/// 2024-03-05T14:07:09, takes a fast path.
 QDateTime toDateTime(const QString& text);
-/// The same by the short way; invalid for every other form.
+/// The fast path of this; invalid for all other forms.
 QDateTime plainDateTime(const QString& text);
 
-/// A time as QDateTime::toString(Qt::ISODate) writes it: to the second, UTC with a "Z", local time without a zone;
-/// empty when it is invalid. With Qt 5, QDateTime writes nothing in the last moments of a program.
+/// The text of a time as QDateTime::toString(Qt::ISODate) returns it: to the second, UTC with a "Z", local time without
+/// a zone; empty if it is invalid. In Qt 5, QDateTime itself returns nothing at the very end of a program.
 QString isoText(const QDateTime& time);
-/// A time as the digits yyMMddhhmmsszzz, whatever the digits of the locale.
+/// A time as yyMMddhhmmsszzz, in ASCII digits whatever the locale.
 QString timeDigits(const QDateTime& time);
 
 } // namespace ArvXml

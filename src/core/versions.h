@@ -5,20 +5,20 @@
 class QXmlStreamWriter;
 
 /// \file
-/// The attribute "version" of the elements that have it.
+/// The attribute "version".
 
 namespace ArvXml {
 
 class ElementReader;
 
-/// The only one that there is: "1.0".
+/// The only supported version: "1.0".
 QString supportedVersion();
 bool isSupportedVersion(const QString& version);
-/// The problem with \a version, or nothing.
+/// The problem of \a version, empty if there is none.
 QString versionError(const QString& version);
 
-/// Puts the version of the start tag into \a version, or the supported one where the tag has none. Returns whether the
-/// stream stands on a start tag, and raises an error if not.
+/// Reads the version in the start tag into \a version; the supported one if it is missing or empty. Returns whether the
+/// stream is at a start tag, and raises an error otherwise.
 bool readVersion(ElementReader& in, QString& version);
 /// Raises an error if \a version is not supported.
 void refuseOtherVersions(ElementReader& in, const QString& version);

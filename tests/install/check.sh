@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Installs the library, moves the installed tree, and builds programs outside the project against it:
-# with CMake, with pkg-config, and the first program of the README, copied from the page.
+# Installs the library, moves the installed tree, and builds programs outside the project with it: with CMake, with
+# pkg-config, and the first program of the README, taken from the page.
 set -euo pipefail
 
 source_dir=$1 build_dir=$2 work_dir=$3 compiler=$4 generator=$5 qt=$6 type=$7 sanitizers=$8
@@ -14,12 +14,12 @@ fi
 rm -rf "$work_dir"
 mkdir -p "$work_dir"
 cmake --install "$build_dir" --prefix "$work_dir/staged" >"$work_dir/install.log"
-mv "$work_dir/staged" "$work_dir/prefix" # nothing installed may know where it was installed to
+mv "$work_dir/staged" "$work_dir/prefix" # installed files must not depend on the prefix
 prefix=$work_dir/prefix
 pkgconfig_file=$(find "$prefix" -name "$name.pc")
 library_dir=$(dirname "$(dirname "$pkgconfig_file")")
 
-# Libraries for both Qts can be installed in one place: the names of all files tell for which they are.
+# Libraries for both Qts can be installed under one prefix: the names of all files depend on the Qt.
 expect "the folders of the headers" "$include_folder/arvxml" \
     "$(cd "$prefix" && find include -name '*.h' -printf '%h\n' | sort -u)"
 expect "every other file is named after its Qt" "" \

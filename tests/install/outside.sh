@@ -1,7 +1,7 @@
 # shellcheck shell=bash disable=SC2034,SC2154
-# To be sourced: programs outside the project are built against the library, and what they print is compared. Wants
+# To be sourced: builds programs outside the project with the library, and compares what they print. Expects
 #
-#   qt          the Qt of the library
+#   qt          the Qt version of the library
 #   source_dir  the sources of the project
 #   work_dir    a folder to work in
 #   compiler, generator, flags (an array)
@@ -25,20 +25,20 @@ expect() {
     echo "ok: $1"
 }
 
-# expect_libraries LIBRARY_DIR: the library that stands there has the right name and needs of Qt what it should.
+# expect_libraries LIBRARY_DIR: the library there has the right soname, and needs the right libraries of Qt.
 expect_libraries() {
     local soname needed
     soname=$(objdump -p "$1/lib$name.so" | awk '$1 == "SONAME" { print $2 }')
-    expect "the library has a soname" "lib$name.so.1.0" "$soname"
+    expect "the soname of the library" "lib$name.so.1.0" "$soname"
     [ -e "$1/$soname" ] || fail "$soname is not installed"
     needed=$(objdump -p "$1/lib$name.so" | awk '$1 == "NEEDED" && /Qt/ { print $2 }' | sort | tr '\n' ' ')
-    expect "Qt Core and Network are all of Qt it needs" "libQt${qt}Core.so.$qt libQt${qt}Network.so.$qt " "$needed"
+    expect "of Qt, the library needs Core and Network" "libQt${qt}Core.so.$qt libQt${qt}Network.so.$qt " "$needed"
 }
 
 frequency='<Frequency version="1.0" unit="kHz">2400.000000</Frequency>'
 
-# configure FOLDER BUILD_DIR CMAKE_ARGUMENT...: configures the project in that folder beside this file; BUILD_DIR.log
-# has what CMake says.
+# configure FOLDER BUILD_DIR CMAKE_ARGUMENT...: configures the project in that folder next to this file; the output of
+# CMake goes to BUILD_DIR.log.
 configure() {
     local folder=$1 build_dir=$2
     shift 2
@@ -50,30 +50,31 @@ configure() {
         }
 }
 
-# expect_cmake CMAKE_ARGUMENT...: CMake finds the library, in the versions that it may be taken for, and links it.
+# expect_cmake CMAKE_ARGUMENT...: CMake finds the library, for compatible versions only, and links it.
 expect_cmake() {
     configure versions "$work_dir/versions" -DARVXML_PACKAGE="$package" "$@"
-    echo "ok: CMake finds versions 1 and 1.0 and refuses others"
+    echo "ok: CMake finds versions 1 and 1.0 and rejects others"
     configure cmake "$work_dir/cmake" -DARVXML_PACKAGE="$package" "$@"
     cmake --build "$work_dir/cmake" >>"$work_dir/cmake.log" || fail "it cannot be built: see $work_dir/cmake.log"
     expect "a CMake project finds and links it" "$frequency" "$("$work_dir/cmake/outside")"
 }
 
-# build_with_pkgconfig SOURCE PROGRAM: a program is compiled with what pkg-config says, and nothing else.
+# build_with_pkgconfig SOURCE PROGRAM: compiles a program with the flags of pkg-config, and nothing else.
 build_with_pkgconfig() {
     local arguments
-    eval "arguments=($(pkg-config --cflags --libs "$name"))" # it quotes for the shell: a path may have blanks
+    # Its output is quoted for the shell, since paths may contain blanks.
+    eval "arguments=($(pkg-config --cflags --libs "$name"))"
     "$compiler" -std=c++17 -fPIC "${flags[@]}" "$1" -o "$2" "${arguments[@]}"
 }
 
-# expect_pkgconfig: pkg-config finds the library, and programs are built so.
+# expect_pkgconfig: pkg-config finds the library, and programs can be built with it.
 expect_pkgconfig() {
     expect "pkg-config knows the version" "1.0.0" "$(pkg-config --modversion "$name")"
     build_with_pkgconfig "$outside_dir/cmake/main.cpp" "$work_dir/outside"
     expect "a program built with pkg-config runs" "$frequency" "$("$work_dir/outside")"
 }
 
-# The README shows the program in its first C++ block and what it prints in the block after it.
+# The first C++ block of the README is the program, the first text block is its output.
 readme_block() {
     awk -v fence="\`\`\`$1" '$0 == fence && !done { inside = 1; next }
                               inside && /^```/ { inside = 0; done = 1 }

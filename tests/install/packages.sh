@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Makes the Debian packages of the library, looks at what they say of themselves and what they bring, unpacks them into
-# a folder, and builds programs outside the project against that. Nothing is installed; `scripts/check packages` does.
+# Builds the Debian packages of the library, checks their control data and content, unpacks them into a folder, and
+# builds programs outside the project with that. Nothing is installed; `scripts/check packages` does that.
 set -euo pipefail
 
 source_dir=$1 work_dir=$2 compiler=$3 generator=$4 qt=$5
@@ -11,20 +11,20 @@ flags=()
 . "$source_dir/scripts/lib/debs.sh"
 
 if ! command -v dpkg-deb >/dev/null; then
-    echo "SKIPPED: there is no dpkg here, so there are no packages to be made"
+    echo "SKIPPED: dpkg is not available to build packages"
     exit 0
 fi
-command -v dpkg-shlibdeps >/dev/null || fail "dpkg-shlibdeps is missing; the package dpkg-dev has it"
-command -v file >/dev/null || fail "file is missing; the package of the same name has it"
+command -v dpkg-shlibdeps >/dev/null || fail "dpkg-shlibdeps is missing; install dpkg-dev"
+command -v file >/dev/null || fail "file is missing; install the package of the same name"
 
-# The build of the library is kept, so that only what has changed is built again.
+# The build of the library is kept, so that only changes are rebuilt.
 mkdir -p "$work_dir"
 cd "$source_dir"
 make_debs "$qt" "$work_dir/build" -G "$generator" -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_UNITY_BUILD=ON \
     >"$work_dir/build.log" 2>&1 ||
     {
         tail -n 40 "$work_dir/build.log" >&2
-        fail "the packages cannot be made"
+        fail "the packages cannot be built"
     }
 
 if [ "$qt" = 5 ]; then
@@ -40,7 +40,7 @@ development_deb=$work_dir/build/packages/${development}_1.0.0_$architecture.deb
 expect "there are two packages" "$(printf '%s\n' "$runtime_deb" "$development_deb" | LC_ALL=C sort)" \
     "$(find "$work_dir/build/packages" -type f | LC_ALL=C sort)"
 
-# What they say of themselves
+# Control data
 
 field() {
     dpkg-deb -f "$1" "$2"
@@ -55,7 +55,7 @@ expect "the name" "$runtime" "$(field "$runtime_deb" Package)"
 expect "the section" "libs" "$(field "$runtime_deb" Section)"
 expect "the synopsis" "Objects for the XML documents of the planning protocol (Qt $qt)" \
     "$(field "$runtime_deb" Description | head -n 1)"
-expect "what it is linked with it depends on" \
+expect "it depends on the libraries that it is linked with" \
     "libc6 libgcc-s1 libqt${qt}core$qt libqt${qt}network$qt libstdc++6" \
     "$(field "$runtime_deb" Depends | tr ',' '\n' | awk '{ print $1 }' | sed 's/t64$//; s/core5a$/core5/' | LC_ALL=C sort | xargs)"
 expect "the name" "$development" "$(field "$development_deb" Package)"
@@ -64,8 +64,8 @@ expect "the synopsis" "Objects for the XML documents of the planning protocol (Q
     "$(field "$development_deb" Description | head -n 1)"
 expect "it depends on the library of the same version and on Qt" "$runtime (= 1.0.0), $qt_package (>= $qt_version)" \
     "$(field "$development_deb" Depends)"
-expect "other packages learn what to depend on" "lib$name 1.0 $runtime (>= 1.0.0)" "$(dpkg-deb -I "$runtime_deb" shlibs)"
-expect "the cache of libraries is renewed" "activate-noawait ldconfig" \
+expect "the dependency of other packages" "lib$name 1.0 $runtime (>= 1.0.0)" "$(dpkg-deb -I "$runtime_deb" shlibs)"
+expect "the library cache is updated" "activate-noawait ldconfig" \
     "$(dpkg-deb -I "$runtime_deb" triggers)"
 control_files() {
     dpkg-deb --ctrl-tarfile "$1" | tar -t | sed 's|^\./||' | grep -v '^$' | LC_ALL=C sort | xargs
@@ -74,20 +74,20 @@ expect "the control files of the runtime package" "control md5sums postinst post
     "$(control_files "$runtime_deb")"
 expect "the control files of the development package" "control md5sums" "$(control_files "$development_deb")"
 
-for script in postinst postrm; do # CPack writes them, for systems without the trigger
-    expect "$script renews the cache and does nothing else" "ldconfig" \
+for script in postinst postrm; do # written by CPack, for systems without the trigger
+    expect "$script updates the cache and does nothing else" "ldconfig" \
         "$(dpkg-deb -I "$runtime_deb" $script | sed 's|^[[:space:]]*||' | grep -vE '^(#.*|set -e|if .*|fi)?$')"
 done
 
-# What they bring. The names of all files tell for which Qt they are, so that the packages for both can be installed.
+# Content. The names of all files depend on the Qt, so that the packages for both can be installed.
 
-# content DEB: the paths of all files and links, without folders.
+# content DEB: prints the paths of all files and links, without folders.
 content() {
     dpkg-deb --fsys-tarfile "$1" | tar -t | sed 's|^\./||' | grep -v '/$' | LC_ALL=C sort
 }
-expect "the runtime package brings the library" "$library_dir/lib$name.so.1.0 $library_dir/lib$name.so.1.0.0" \
+expect "the runtime package contains the library" "$library_dir/lib$name.so.1.0 $library_dir/lib$name.so.1.0.0" \
     "$(content "$runtime_deb" | xargs)"
-expect "the development package brings these beside the headers" \
+expect "the development package contains these files and the headers" \
     "$library_dir/cmake/$package/${package}Config.cmake
 $library_dir/cmake/$package/${package}ConfigVersion.cmake
 $library_dir/cmake/$package/${package}Targets-release.cmake
@@ -98,22 +98,22 @@ $library_dir/pkgconfig/$name.pc" \
 headers=$(content "$development_deb" | sed -n "s|^usr/$include_folder/arvxml/||p")
 expect "all headers are there" "$(cd include/arvxml && find . -name '*.h' -printf '%f\n' | LC_ALL=C sort)" \
     "$(grep '\.h$' <<<"$headers")"
-expect "and all classes" \
+expect "the headers of all classes are there" \
     "$(sed -n 's/^class ARVXML_EXPORT \([A-Za-z0-9_]*\).*/\1/p' include/arvxml/*.h | LC_ALL=C sort)" \
     "$(grep -v '\.h$' <<<"$headers")"
-expect "everything belongs to root, and nobody else writes it" "" \
+expect "everything belongs to root, and is not writable by others" "" \
     "$(for deb in "$runtime_deb" "$development_deb"; do
         dpkg-deb -c "$deb" | grep -v -e '^drwxr-xr-x root/root ' -e '^-rw-r--r-- root/root ' -e '^lrwxrwxrwx root/root '
     done)"
 
-# What is built against it, unpacked
+# Programs built with the unpacked packages
 
 root=$work_dir/root
 rm -rf "$root"
 dpkg-deb -x "$runtime_deb" "$root"
 dpkg-deb -x "$development_deb" "$root"
 expect_libraries "$root/$library_dir"
-expect "the library does not say where to look for others" "" \
+expect "the library has no run path" "" \
     "$(objdump -p "$root/$library_dir/lib$name.so" | grep -E 'RPATH|RUNPATH' || true)"
 expect_cmake -DCMAKE_PREFIX_PATH="$root/usr"
 export PKG_CONFIG_PATH=$root/$library_dir/pkgconfig LD_LIBRARY_PATH=$root/$library_dir

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The library built as a static one, from a single source, and programs outside the project that link it.
+# Builds a static library from a single source, and programs outside the project with it.
 set -euo pipefail
 
 source_dir=$1 work_dir=$2 compiler=$3 generator=$4 qt=$5

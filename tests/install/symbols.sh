@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# The shared library shows its element classes, all those that it showed before, and nothing of the machinery behind
-# them. The list has what it shows, and how large the classes are; programs linked with an earlier build need every line
-# of it. SIZES is the program that prints the sizes.
+# Checks the binary interface of the shared library: it exports the element classes, everything that it exported before,
+# and none of its internals. The list has the symbols, and the sizes of the classes; programs linked with an earlier
+# build depend on every line. SIZES is the program that prints the sizes.
 #
 #   tests/install/symbols.sh LIBRARY SIZES LIST            compares the library with the list
-#   tests/install/symbols.sh LIBRARY SIZES LIST --update   writes the list anew
+#   tests/install/symbols.sh LIBRARY SIZES LIST --update   updates the list
 set -euo pipefail
 
 library=$1 sizes=$2 list=$3 mode=${4:-}
@@ -19,28 +19,28 @@ symbols=$(nm -D --defined-only --demangle "$library" | sed 's/^[0-9a-f]* . //')
 hidden='ContentModel|ElementReader|EnumerationTexts|EnumerationRules|QuantityRules|TextRules|ParameterTable|Binding|Row'
 hidden+='|Particle|WrapperEnd|NeverDestroyed'
 if grep -E "^ArvXml::($hidden)(::|$)" <<<"$symbols"; then
-    fail "machinery is visible"
+    fail "internals are exported"
 fi
 if grep -vE '^((typeinfo( name)?|vtable) for |non-virtual thunk to )?ArvXml::' <<<"$symbols"; then
-    fail "something outside the namespace is visible"
+    fail "something outside the namespace is exported"
 fi
 for class in XmlFreqType XmlCmdRoot XmlRespRoot; do
-    grep -q "^ArvXml::$class::$class()" <<<"$symbols" || fail "$class is not visible"
+    grep -q "^ArvXml::$class::$class()" <<<"$symbols" || fail "$class is not exported"
 done
-echo "ok: only the interface is visible"
+echo "ok: only the interface is exported"
 
-# Elements are used to the last moment of a program: there must be nothing that would be gone by then. (Where coverage
-# is counted, the counting has something to do at the end.)
+# Elements can be used until the very end of a program, so nothing may be destroyed there. (Coverage builds do register
+# an exit handler.)
 if ! grep -q __llvm_profile_ <<<"$(nm "$library")" &&
     nm -D --undefined-only "$library" | grep -E '__cxa_(thread_)?atexit'; then
     fail "the library destroys something at the end of the program or of a thread"
 fi
 echo "ok: nothing is destroyed at the end"
 
-# Left out are weak functions (W): inline functions and templates, which a program has in itself, and which compilers
-# put into the library or not as they please. Tables of virtual functions and type information (V) are weak too, but every
-# program needs them. Constructors and destructors have several symbols under one name and are listed once: of an
-# abstract class, some compilers leave out the symbol that nobody can use.
+# Weak functions (W) are left out: inline functions and templates, which programs contain themselves, and which are in
+# the library or not depending on the compiler. Virtual tables and type information (V) are weak too, but programs need
+# them. Constructors and destructors have several symbols with the same name, and are listed once: some compilers leave
+# out the unusable symbol of an abstract class.
 current=$(
     {
         nm -D --defined-only --demangle "$library" | awk '$2 != "W"' | sed 's/^[0-9a-f]* . //'
@@ -49,13 +49,13 @@ current=$(
 )
 if [ "$mode" = --update ]; then
     printf '%s\n' "$current" >"$list"
-    echo "written: $list"
+    echo "updated: $list"
     exit
 fi
-[ -z "$mode" ] || fail "unknown: $mode"
+[ -z "$mode" ] || fail "unknown option: $mode"
 listed=$(cat "$list")
 if ! grep -q '^size of ' <<<"$current"; then
-    listed=$(grep -v '^size of ' <<<"$listed") # not on this machine
+    listed=$(grep -v '^size of ' <<<"$listed") # not printed on this machine
 fi
 lost=$(LC_ALL=C comm -13 <(printf '%s\n' "$current") <(printf '%s\n' "$listed"))
 added=$(LC_ALL=C comm -23 <(printf '%s\n' "$current") <(printf '%s\n' "$listed"))
@@ -66,10 +66,10 @@ if [ -n "$lost$added" ]; then
     {
         show "Lost" "$lost"
         show "Added" "$added"
-        echo "If that is meant, write the list anew, with both Qts, and commit it:"
+        echo "If this is intended, update the lists for both Qts, and commit them:"
         echo "    $0 $library $sizes $list --update"
-        echo "Programs linked before need what is lost, and know the old sizes: raise the minor version, and so the soname."
+        echo "Programs linked before need what is lost, and the old sizes: raise the minor version, and so the soname."
     } >&2
     fail "the binary interface has changed"
 fi
-echo "ok: the binary interface is that of the list"
+echo "ok: the binary interface is as listed"

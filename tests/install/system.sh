@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# The library installed on this machine for both Qts at once: programs outside the project are built as anybody would,
-# with CMake and with pkg-config, without being told where the library is.
+# With the library installed on this machine for both Qts: builds programs outside the project as users do, with CMake
+# and with pkg-config, without specifying where the library is.
 set -euo pipefail
 
 source_dir=$1 system_work_dir=$2
@@ -17,7 +17,7 @@ for qt in 5 6; do
     expect_cmake
     expect_pkgconfig
     expect_readme
-    expect "the system knows the library" "lib$name.so.1.0" \
+    expect "the library is in the system cache" "lib$name.so.1.0" \
         "$(ldconfig -p | awk -v "library=lib$name.so.1.0" '$1 == library { print $1 }')"
 done
 
@@ -26,6 +26,6 @@ configure both "$system_work_dir/both"
 cmake --build "$system_work_dir/both" >>"$system_work_dir/both.log"
 for qt in 5 6; do
     expect "the program for Qt $qt" "$frequency" "$("$system_work_dir/both/with-qt$qt")"
-    expect "is linked with that Qt alone" "libQt${qt}Core.so.$qt" \
+    expect "it is linked with that Qt only" "libQt${qt}Core.so.$qt" \
         "$(objdump -p "$system_work_dir/both/with-qt$qt" | awk '$1 == "NEEDED" && /Qt/ { print $2 }')"
 done
