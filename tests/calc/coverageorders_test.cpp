@@ -67,11 +67,6 @@ struct BestSensor : XmlBestSensorType {
     void setSensors(const XmlNameAllMultiType& sensors) { setUseRxDFs(sensors); }
 };
 
-struct OpenProb : XmlCepProbType {
-    using XmlCepProbType::classname;
-    using XmlCepProbType::mySyntaxError;
-};
-
 std::unique_ptr<XmlElementBase> newOrder(const QString& tag)
 {
     if (tag == Cep::tag())
@@ -444,16 +439,6 @@ private Q_SLOTS:
     void cepWithAllChildren();
     void cepProbability();
     void bestSensorComment();
-
-    void probDefaults();
-    void probTexts_data();
-    void probTexts();
-    void probOtherValues();
-    void probReaderErrors_data();
-    void probReaderErrors();
-    void probReading();
-    void probPositions();
-    void probCopiesAndReset();
 };
 
 void CoverageordersTest::interface()
@@ -786,161 +771,6 @@ void CoverageordersTest::bestSensorComment()
              QString());
     QCOMPARE(order.comment()->objName(), QString());
     QVERIFY(order.hasComment());
-}
-
-// The probability level
-
-void CoverageordersTest::probDefaults()
-{
-    OpenProb element;
-    QCOMPARE(element.classname(), QStringLiteral("XmlCepProbType"));
-    QCOMPARE(static_cast<int>(element.prob()), 0);
-    QVERIFY(!element.isValid());
-    QCOMPARE(element.syntaxError(),
-             QStringLiteral("+++ in XmlCepProbType Begin:\n"
-                            "Illegal probability value.\n"
-                            "--- in XmlCepProbType End"));
-    QCOMPARE(written(element, QStringLiteral("Probability")), QStringLiteral("<Probability>UNDEFINED</Probability>"));
-}
-
-void CoverageordersTest::probTexts_data()
-{
-    QTest::addColumn<int>("value");
-    QTest::addColumn<QString>("xml");
-
-    QTest::newRow("50") << 1 << QStringLiteral("<Probability>50</Probability>");
-    QTest::newRow("66") << 2 << QStringLiteral("<Probability>66</Probability>");
-    QTest::newRow("75") << 3 << QStringLiteral("<Probability>75</Probability>");
-    QTest::newRow("90") << 4 << QStringLiteral("<Probability>90</Probability>");
-    QTest::newRow("95") << 5 << QStringLiteral("<Probability>95</Probability>");
-}
-
-void CoverageordersTest::probTexts()
-{
-    QFETCH(int, value);
-    QFETCH(QString, xml);
-
-    auto element = readFrom<XmlCepProbType>(xml);
-    QCOMPARE(static_cast<int>(element.prob()), value);
-    QCOMPARE(static_cast<int>(std::as_const(element).prob()), value);
-    QVERIFY(element.isValid());
-    QCOMPARE(element.syntaxError(), QString());
-    QCOMPARE(written(element, QStringLiteral("Probability")), xml);
-    QCOMPARE(written(prob(value), QStringLiteral("Probability")), xml);
-}
-
-void CoverageordersTest::probOtherValues()
-{
-    for (const int value : {6, -1, INT_MAX, INT_MIN}) {
-        XmlCepProbType element = prob(value);
-        QCOMPARE(written(element, QStringLiteral("P")), QStringLiteral("<P>UNDEFINED</P>"));
-        QVERIFY(element.isValid());
-        QCOMPARE(element.syntaxError(), QString());
-    }
-}
-
-void CoverageordersTest::probReaderErrors_data()
-{
-    QTest::addColumn<QString>("xml");
-    QTest::addColumn<QString>("error");
-    QTest::addColumn<int>("value");
-
-    // The stream has looked one character past a text when it hands it out.
-    QTest::newRow("another number") << QStringLiteral("<P>80</P>")
-                                    << QStringLiteral("in XmlCepProbType (line 1, column 6): Illegal enum value.") << 0;
-    QTest::newRow("a blank before") << QStringLiteral("<P> 50</P>")
-                                    << QStringLiteral("in XmlCepProbType (line 1, column 7): Illegal enum value.") << 0;
-    QTest::newRow("a line feed before") << QStringLiteral("<P>\n50</P>")
-                                        << QStringLiteral("in XmlCepProbType (line 2, column 3): Illegal enum value.")
-                                        << 0;
-    QTest::newRow("an enumeration value")
-        << QStringLiteral("<P>4</P>") << QStringLiteral("in XmlCepProbType (line 1, column 5): Illegal enum value.")
-        << 0;
-    QTest::newRow("UNDEFINED is never read")
-        << QStringLiteral("<P>UNDEFINED</P>")
-        << QStringLiteral("in XmlCepProbType (line 1, column 13): Illegal enum value.") << 0;
-    QTest::newRow("a start tag inside")
-        << QStringLiteral("<P><x>50</x></P>")
-        << QStringLiteral("in XmlCepProbType (line 1, column 6): Unexpected token \"StartElement\".") << 5;
-    QTest::newRow("a premature end") << QStringLiteral("<P>") << QStringLiteral("Premature end of document.") << 5;
-}
-
-void CoverageordersTest::probReaderErrors()
-{
-    QFETCH(QString, xml);
-    QFETCH(QString, error);
-    QFETCH(int, value);
-
-    XmlCepProbType element = prob(5);
-    QCOMPARE(readError(element, xml), error);
-    QCOMPARE(static_cast<int>(element.prob()), value);
-
-    QCOMPARE(readError(element, QStringLiteral("<P>66</P>")), QString());
-    QCOMPARE(static_cast<int>(element.prob()), 2);
-}
-
-void CoverageordersTest::probReading()
-{
-    XmlCepProbType element = prob(3);
-    QCOMPARE(readError(element, QStringLiteral("<P a=\"b\"><!-- c --><?p i?></P>")), QString());
-    QCOMPARE(static_cast<int>(element.prob()), 3);
-    QCOMPARE(readError(element, QStringLiteral("<P>50<!-- -->95</P>")), QString());
-    QCOMPARE(static_cast<int>(element.prob()), 5);
-}
-
-void CoverageordersTest::probPositions()
-{
-    const QString xml = QStringLiteral("<P>50</P>");
-    QXmlStreamReader fresh(xml);
-    XmlCepProbType element = prob(3);
-    element.processXml(fresh, QStringLiteral("P"));
-    QVERIFY(fresh.errorString().endsWith(QLatin1String("): Unexpected token \"StartDocument\".")));
-
-    QXmlStreamReader onText(xml);
-    onText.readNextStartElement();
-    onText.readNext();
-    element.processXml(onText, QStringLiteral("P"));
-    QCOMPARE(onText.errorString(), QString());
-    QCOMPARE(static_cast<int>(element.prob()), 3);
-    element.processXml(onText, QStringLiteral("P"));
-    QCOMPARE(onText.errorString(),
-             QStringLiteral("in XmlCepProbType (line 1, column 9): Unexpected token \"EndDocument\"."));
-
-    QXmlStreamReader atEnd(xml);
-    while (!atEnd.atEnd())
-        atEnd.readNext();
-    element.processXml(atEnd, QStringLiteral("P"));
-    QVERIFY(!atEnd.hasError());
-    QCOMPARE(static_cast<int>(element.prob()), 3);
-
-    QXmlStreamReader otherTag(xml);
-    otherTag.readNextStartElement();
-    element.processXml(otherTag, QStringLiteral("p"));
-    QCOMPARE(otherTag.errorString(),
-             QStringLiteral("in XmlCepProbType (line 1, column 9): Unexpected token \"EndElement\"."));
-    QCOMPARE(static_cast<int>(element.prob()), 1);
-}
-
-void CoverageordersTest::probCopiesAndReset()
-{
-    XmlCepProbType original = prob(2);
-    XmlCepProbType copy(original);
-    XmlCepProbType assigned;
-    assigned = original;
-    original.setProb(static_cast<XmlCepProbType::Prob>(4));
-    QCOMPARE(static_cast<int>(copy.prob()), 2);
-    QCOMPARE(static_cast<int>(assigned.prob()), 2);
-    const XmlCepProbType& same = copy;
-    copy = same;
-    QCOMPARE(static_cast<int>(copy.prob()), 2);
-
-    OpenProb element;
-    element.syntaxError();
-    element.setProb(static_cast<XmlCepProbType::Prob>(4));
-    element.reset();
-    QCOMPARE(static_cast<int>(element.prob()), 0);
-    QCOMPARE(element.mySyntaxError(), QString());
-    QVERIFY(!element.isValid());
 }
 
 QTEST_APPLESS_MAIN(CoverageordersTest)
