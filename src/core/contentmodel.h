@@ -133,7 +133,7 @@ public:
         m_writeAttributes = write;
         return *this;
     }
-    /// Versions other than "1.0" are refused on reading, instead of being reported as a problem.
+    /// Versions other than "1.0" are refused on reading, too, not only reported as a problem.
     ContentModel& refusesOtherVersions()
     {
         m_refusesOtherVersions = true;

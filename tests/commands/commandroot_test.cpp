@@ -141,8 +141,6 @@ private Q_SLOTS:
     void problemsInOrder();
     void reset();
     void reuse();
-    void readerErrors_data();
-    void readerErrors();
     void positions();
 };
 
@@ -797,57 +795,6 @@ void CommandrootTest::reuse()
     root.reset();
     QCOMPARE(readError(root, document(c1)), QString());
     QCOMPARE(written(root, rootTag), document(c1));
-}
-
-void CommandrootTest::readerErrors_data()
-{
-    QTest::addColumn<QString>("xml");
-    QTest::addColumn<QString>("error");
-
-    QTest::newRow("an unknown command")
-        << QStringLiteral("<Commands>\n\n   <Compute/></Commands>")
-        << QStringLiteral("in XmlCmdRoot (line 3, column 13): Unexpected token \"StartElement\": Compute.");
-    QTest::newRow("a failing administrative command")
-        << QStringLiteral("<Commands>\n<Administrative></Administrative><Other/></Commands>")
-        << QStringLiteral("in XmlCmdAdmin (line 2, column 33): Unexpected token \"EndElement\".");
-    QTest::newRow("a failing calculation")
-        << QStringLiteral("<Commands>\n<Calculate></Calculate><Other/></Commands>")
-        << QStringLiteral("in XmlCmdCalc (line 2, column 23): Unexpected token \"EndElement\".");
-    QTest::newRow("a failing create command")
-        << QStringLiteral("<Commands>\n<Create></Create><Other/></Commands>")
-        << QStringLiteral("in XmlCmdCreate (line 2, column 17): Unexpected token \"EndElement\".");
-    QTest::newRow("a signal path under the tag of writing")
-        << QStringLiteral("<Commands>\n<Create>\n <SignalPath></SignalPath></Create></Commands>")
-        << QStringLiteral("in XmlCmdCreate (line 3, column 13): Unexpected element \"SignalPath\".");
-    QTest::newRow("a failing delete command")
-        << QStringLiteral("<Commands>\n<Delete>\n<Emitter><All/></Emitter>\n<Receiver></Receiver></Delete></Commands>")
-        << QStringLiteral("in XmlCmdDelete (line 4, column 10): Unexpected element \"Receiver\".");
-    QTest::newRow("a failing model")
-        << QStringLiteral("<Commands>\n<PropagationModel></PropagationModel><Other/></Commands>")
-        << QStringLiteral("in XmlPropModelType (line 2, column 37): Unexpected token \"EndElement\".");
-    QTest::newRow("a failing parameter set")
-        << QStringLiteral("<Commands>\n<PropagationModel>\n <PropertiesITM><Pol>X</Pol></PropertiesITM>"
-                          "</PropagationModel></Commands>")
-        << QStringLiteral("in XmlPropModelITMType (line 3, column 28): Illegal value for \"Pol\".");
-    QTest::newRow("a second model")
-        << QStringLiteral("<Commands>%1\n<PropagationModel><Reference>2</Reference></PropagationModel></Commands>")
-               .arg(m1)
-        << QStringLiteral("in XmlCmdRoot (line 2, column 18): Unexpected token \"StartElement\": PropagationModel.");
-    QTest::newRow("a failing envelope")
-        << QStringLiteral("<Commands>\n<ORDER_DEF><x></x></ORDER_DEF></Commands>")
-        << QStringLiteral("in XmlOrderDef (line 2, column 14): Unexpected token \"StartElement\": x.");
-    QTest::newRow("a premature end") << QStringLiteral("<Commands>") << QStringLiteral("Premature end of document.");
-    QTest::newRow("an end tag that does not match")
-        << QStringLiteral("<Commands></commands>") << QStringLiteral("Opening and ending tag mismatch.");
-}
-
-void CommandrootTest::readerErrors()
-{
-    QFETCH(QString, xml);
-    QFETCH(QString, error);
-
-    XmlCmdRoot root;
-    QCOMPARE(readError(root, xml), error);
 }
 
 void CommandrootTest::positions()

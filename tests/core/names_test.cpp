@@ -168,8 +168,6 @@ private Q_SLOTS:
     void namesOrAllAreReset();
 
     // All of them
-    void readingFails_data();
-    void readingFails();
     void readingStartsAnywhere_data();
     void readingStartsAnywhere();
     void ownEndTagComesFirst();
@@ -1040,62 +1038,6 @@ void NamesTest::namesOrAllAreReset()
 }
 
 // All of them
-
-void NamesTest::readingFails_data()
-{
-    QTest::addColumn<Kind>("kind");
-    QTest::addColumn<QString>("xml");
-    QTest::addColumn<QString>("error");
-    const QString child = QStringLiteral("<E>\n <b/></E>");
-    const QString numberAndChild = QStringLiteral("<E>1<b/></E>");
-    const QString unfinished = QStringLiteral("<E>1");
-    const QString unfinishedAll = QStringLiteral("<E><All/>");
-    const QString mismatch = QStringLiteral("<E>1</F>");
-
-    QTest::newRow("a child in a name")
-        << Kind::Name << child
-        << QStringLiteral("in XmlObjNameType (line 2, column 5): Unexpected token \"StartElement\".");
-    QTest::newRow("a child in a reference")
-        << Kind::Reference << child
-        << QStringLiteral("in XmlreferenceType (line 2, column 5): Unexpected token \"StartElement\".");
-    QTest::newRow("a child in a key") << Kind::Key << numberAndChild
-                                      << QStringLiteral(
-                                             "in XmlKeyType (line 1, column 8): Unexpected token \"StartElement\".");
-    QTest::newRow("a child in a name or all")
-        << Kind::NameOrAll << child
-        << QStringLiteral("in XmlNameAllType (line 2, column 5): Unexpected element \"b\".");
-    QTest::newRow("a child in names or all")
-        << Kind::NamesOrAll << child
-        << QStringLiteral("in XmlNameAllMultiType (line 2, column 5): Unexpected element \"b\".");
-
-    QTest::newRow("an unfinished name") << Kind::Name << unfinished << QStringLiteral("Premature end of document.");
-    QTest::newRow("an unfinished reference")
-        << Kind::Reference << unfinished << QStringLiteral("Premature end of document.");
-    QTest::newRow("an unfinished key") << Kind::Key << unfinished << QStringLiteral("Premature end of document.");
-    QTest::newRow("an unfinished name or all")
-        << Kind::NameOrAll << unfinishedAll << QStringLiteral("Premature end of document.");
-    QTest::newRow("unfinished names or all")
-        << Kind::NamesOrAll << unfinishedAll << QStringLiteral("Premature end of document.");
-
-    // What the stream itself finds is left as it is.
-    QTest::newRow("a broken name") << Kind::Name << mismatch << QStringLiteral("Opening and ending tag mismatch.");
-    QTest::newRow("a broken reference") << Kind::Reference << mismatch
-                                        << QStringLiteral("Opening and ending tag mismatch.");
-    QTest::newRow("a broken key") << Kind::Key << mismatch << QStringLiteral("Opening and ending tag mismatch.");
-    QTest::newRow("a broken name or all")
-        << Kind::NameOrAll << mismatch << QStringLiteral("Opening and ending tag mismatch.");
-    QTest::newRow("broken names or all") << Kind::NamesOrAll << mismatch
-                                         << QStringLiteral("Opening and ending tag mismatch.");
-}
-
-void NamesTest::readingFails()
-{
-    QFETCH(Kind, kind);
-    QFETCH(QString, xml);
-    QFETCH(QString, error);
-    const auto element = newElement(kind);
-    QCOMPARE(ElementTest::readError(*element, xml), error);
-}
 
 void NamesTest::readingStartsAnywhere_data()
 {

@@ -225,8 +225,6 @@ private Q_SLOTS:
     void reuse();
     void failures_data();
     void failures();
-    void readerErrors_data();
-    void readerErrors();
     void positions();
 };
 
@@ -1142,51 +1140,6 @@ void PropmodelTest::failures()
     Command used = commandWith(index);
     QCOMPARE(readError(used, QStringLiteral("<PropagationModel>\n%1").arg(childXml)), error);
     QCOMPARE(written(used, modelTag), document(left + referenceXml));
-}
-
-void PropmodelTest::readerErrors_data()
-{
-    QTest::addColumn<bool>("isCommand");
-    QTest::addColumn<QString>("xml");
-    QTest::addColumn<QString>("error");
-
-    QTest::newRow("an unknown child") << true << QStringLiteral("<PropagationModel>\n\n   <Model/></PropagationModel>")
-                                      << QStringLiteral(
-                                             "in XmlPropModelType (line 3, column 11): Unexpected element \"Model\".");
-    QTest::newRow("a second set") << true
-                                  << QStringLiteral("<PropagationModel><PropertiesITM/>\n<PropertiesOLOS>"
-                                                    "</PropertiesOLOS></PropagationModel>")
-                                  << QStringLiteral("in XmlPropModelType (line 2, column 16): "
-                                                    "Unexpected element \"PropertiesOLOS\".");
-    QTest::newRow("a selection after a set")
-        << true
-        << QStringLiteral("<PropagationModel><PropertiesITM/>\n<SelectModel>ITM</SelectModel></PropagationModel>")
-        << QStringLiteral("in XmlPropModelType (line 2, column 13): Unexpected element \"SelectModel\".");
-    QTest::newRow("a command without a reference")
-        << true << QStringLiteral("<PropagationModel>\n<SelectModel>ITM</SelectModel>\n</PropagationModel>")
-        << QStringLiteral("in XmlPropModelType (line 3, column 19): Unexpected token \"EndElement\".");
-    QTest::newRow("a reference of no command")
-        << false << QStringLiteral("<PropagationModel>\n<Reference>42</Reference></PropagationModel>")
-        << QStringLiteral("in XmlPropModelType (line 2, column 11): Unexpected element \"Reference\".");
-    QTest::newRow("a reference with a child")
-        << true << QStringLiteral("<PropagationModel>\n<Reference><x></x></Reference></PropagationModel>")
-        << QStringLiteral("in XmlreferenceType (line 2, column 14): Unexpected token \"StartElement\".");
-    QTest::newRow("a premature end") << true << QStringLiteral("<PropagationModel>")
-                                     << QStringLiteral("Premature end of document.");
-    QTest::newRow("a premature end in a set")
-        << false << QStringLiteral("<PropagationModel><PropertiesITM>") << QStringLiteral("Premature end of document.");
-    QTest::newRow("an end tag that does not match") << true << QStringLiteral("<PropagationModel></propagationModel>")
-                                                    << QStringLiteral("Opening and ending tag mismatch.");
-}
-
-void PropmodelTest::readerErrors()
-{
-    QFETCH(bool, isCommand);
-    QFETCH(QString, xml);
-    QFETCH(QString, error);
-
-    XmlPropModelType model(isCommand);
-    QCOMPARE(readError(model, xml), error);
 }
 
 void PropmodelTest::positions()
