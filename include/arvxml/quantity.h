@@ -25,7 +25,7 @@ protected:
 
     void addErrors() override;
 
-    /// The rules passed to the constructor. They are not stored: lists of levels would take a third more memory.
+    /// The rules passed to the constructor. They are not stored: lists of levels would take a sixth more memory.
     virtual const QuantityRules& rules() const = 0;
 
     double m_value;

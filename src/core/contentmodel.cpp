@@ -7,6 +7,7 @@ namespace ArvXml {
 /// A particle has one mark, which each of its children sets. Those of later particles are all the greater ones.
 void ContentModel::addParticle(const Particle& particle, Marks needed, const QString& wrapper)
 {
+    Q_ASSERT(m_nextMark != 0); // 32 marks are enough for every element
     const bool isRepeated = particle.occurrence == Occurrence::Repeated;
     const Marks itselfAndLater = ~(m_nextMark - 1);
     const bool isChoice = particle.alternatives.size() > 1;

@@ -24,7 +24,7 @@ int numberOf(const QString& text, int at, int count)
 
 } // namespace
 
-QDateTime plainDateTime(const QString& text)
+QDateTime fastDateTime(const QString& text)
 {
     const QLatin1String form("dddd-dd-ddTdd:dd:dd");
     if (!std::equal(text.cbegin(), text.cend(), form.begin(), form.end(), fits))
@@ -36,7 +36,7 @@ QDateTime plainDateTime(const QString& text)
 
 QDateTime toDateTime(const QString& text)
 {
-    const QDateTime time = plainDateTime(text);
+    const QDateTime time = fastDateTime(text);
     return time.isValid() ? time : QDateTime::fromString(text, Qt::ISODate);
 }
 

@@ -9,7 +9,7 @@ namespace ArvXml {
 /// 2024-03-05T14:07:09, takes a fast path.
 QDateTime toDateTime(const QString& text);
 /// The fast path of this; invalid for all other forms.
-QDateTime plainDateTime(const QString& text);
+QDateTime fastDateTime(const QString& text);
 
 /// The text of a time as QDateTime::toString(Qt::ISODate) returns it: to the second, UTC with a "Z", local time without
 /// a zone; empty if it is invalid. In Qt 5, QDateTime itself returns nothing at the very end of a program.

@@ -44,8 +44,8 @@ const ContentModel& XmlDeviceType::contentModel() const
     constexpr Marks Fixed = Category | Name | Frequencies;
     constexpr Marks Lists = Noises | KFactors | Attenuations | Gains | Degrees | Dbm;
     constexpr Marks All = Fixed | Lists;
-    // Odd: which lists there are decides what the device is, and the gates of the lists contradict the order of
-    // writing: KFactors is written second but refused before Gains, Degrees and DBM.
+    // Odd: a device has exactly one of five sets of lists, see completeWhen(). And the gates of the lists contradict
+    // the order of writing: KFactors is written second, but Gains, Degrees and DBM are refused after it.
     static const NeverDestroyed<ContentModel> model =
         ContentModel(listWording)
             .rows({
@@ -58,8 +58,12 @@ const ContentModel& XmlDeviceType::contentModel() const
                 Row("Noises", reused<&Self::m_noises>()).marks(Noises).refusedAfter(Lists),
                 Row("KFactors", reused<&Self::m_kFactors>()).marks(KFactors).refusedAfter(KFactors | Attenuations),
                 Row("Attenuations", reused<&Self::m_attenuations>()).marks(Attenuations).refusedAfter(Lists),
-                Row("Gains", reused<&Self::m_gains>()).marks(Gains).refusedAfter(Lists & ~Noises),
-                Row("Degrees", reused<&Self::m_accuracies>()).marks(Degrees).refusedAfter(Lists & ~Noises),
+                Row("Gains", reused<&Self::m_gains>())
+                    .marks(Gains)
+                    .refusedAfter(KFactors | Attenuations | Gains | Degrees | Dbm),
+                Row("Degrees", reused<&Self::m_accuracies>())
+                    .marks(Degrees)
+                    .refusedAfter(KFactors | Attenuations | Gains | Degrees | Dbm),
                 Row("DBM", reused<&Self::m_levels>()).marks(Dbm).refusedAfter(KFactors | Attenuations | Dbm),
             })
             .completeWhen(All, Fixed | Noises)

@@ -94,7 +94,7 @@ static QString writtenText(const ParameterRow& row, double value)
     }
     const int choice = static_cast<int>(value);
     const bool hasText = choice >= 0 && choice < static_cast<int>(row.texts.size());
-    return row.texts[static_cast<std::size_t>(hasText ? choice : static_cast<int>(row.byDefault))];
+    return row.texts[static_cast<std::size_t>(hasText ? choice : static_cast<int>(row.defaultValue))];
 }
 
 void XmlParameterSet::produceXml(QXmlStreamWriter& writer, const QString& tagName) const
@@ -138,7 +138,7 @@ void XmlParameterSet::resetParameters()
 {
     m_parameters.clear();
     for (int parameter = 0; parameter < m_table->size(); ++parameter)
-        m_parameters.push_back({m_table->row(parameter).byDefault, false});
+        m_parameters.push_back({m_table->row(parameter).defaultValue, false});
 }
 
 void XmlParameterSet::reset()

@@ -20,7 +20,7 @@ struct ParameterRow {
     Kind kind = Real;
     QString tag;                      ///< read under this tag
     QString writtenTag;               ///< written under this one; null for the tag of the set itself
-    double byDefault = 0.0;           ///< the value of a new set; its text also stands for a choice outside the texts
+    double defaultValue = 0.0;        ///< the value of a new set; its text also stands for a choice outside the texts
     double valueAfterReadError = 0.0; ///< the value after a text that cannot be read
     int decimals = 0;                 ///< how many are written
     double min = -std::numeric_limits<double>::infinity();
@@ -50,12 +50,12 @@ inline std::vector<QString> switchTexts()
 }
 
 /// A real number, valid from \a min to \a max, written with \a decimals.
-inline ParameterRow real(const char* tag, double byDefault, int decimals, double min, double max,
+inline ParameterRow real(const char* tag, double defaultValue, int decimals, double min, double max,
                          const char* rangeError, const char* readError)
 {
     ParameterRow row;
     row.tag = row.writtenTag = QString::fromLatin1(tag);
-    row.byDefault = row.valueAfterReadError = byDefault;
+    row.defaultValue = row.valueAfterReadError = defaultValue;
     row.decimals = decimals;
     row.min = min;
     row.max = max;
@@ -65,21 +65,21 @@ inline ParameterRow real(const char* tag, double byDefault, int decimals, double
 }
 
 /// A decimal integer, valid from \a min to \a max.
-inline ParameterRow integer(const char* tag, int byDefault, int min, int max, const char* rangeError,
+inline ParameterRow integer(const char* tag, int defaultValue, int min, int max, const char* rangeError,
                             const char* readError)
 {
-    ParameterRow row = real(tag, byDefault, 0, min, max, rangeError, readError);
+    ParameterRow row = real(tag, defaultValue, 0, min, max, rangeError, readError);
     row.kind = ParameterRow::Integer;
     return row;
 }
 
 /// A choice out of \a texts.
-inline ParameterRow choice(const char* tag, int byDefault, std::vector<QString> texts, const char* readError)
+inline ParameterRow choice(const char* tag, int defaultValue, std::vector<QString> texts, const char* readError)
 {
     ParameterRow row;
     row.kind = ParameterRow::Choice;
     row.tag = row.writtenTag = QString::fromLatin1(tag);
-    row.byDefault = row.valueAfterReadError = byDefault;
+    row.defaultValue = row.valueAfterReadError = defaultValue;
     row.readError = QString::fromLatin1(readError);
     row.texts = std::move(texts);
     return row;

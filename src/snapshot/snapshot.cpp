@@ -12,6 +12,7 @@ namespace {
 constexpr char pathTag[] = "ScreenshotPath";
 constexpr char objectsTag[] = "DisplayedObjects";
 
+/// Inside the tag of the path, and after text in it; inside the tag of the objects, and after its end tag.
 enum SnapshotMarks : Marks { InPath = 1, PathRead = 2, InObjects = 4, ObjectsDone = 8 };
 
 /// The path counts as read once it holds text, even white space.
@@ -33,8 +34,8 @@ XmlArvBtType::XmlArvBtType()
 const ContentModel& XmlArvBtType::contentModel() const
 {
     using Self = XmlArvBtType;
-    // Odd: the path is taken from the characters between its tags, and the objects are let in only once it has some.
-    // The tag around the objects may be opened again while it is open.
+    // Odd: the path is taken from the characters between its tags. Without any, the objects are refused, and the path
+    // may come again. The tag around the objects may be opened again while it is open.
     static const NeverDestroyed<ContentModel> model =
         ContentModel(leafWording)
             .rows({

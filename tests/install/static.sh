@@ -1,10 +1,14 @@
 #!/usr/bin/env bash
-# Builds a static library from a single source, and programs outside the project with it.
+# Builds a static library from a single source, and programs outside the project with it. All paths contain blanks and
+# letters beyond ASCII.
 set -euo pipefail
 
 source_dir=$1 work_dir=$2 compiler=$3 generator=$4 qt=$5
 
+work_dir="$work_dir/für Pläne"
 mkdir -p "$work_dir"
+ln -sfn "$source_dir" "$work_dir/the sources"
+source_dir="$work_dir/the sources"
 {
     cmake -S "$source_dir" -B "$work_dir/build" -G "$generator" -DCMAKE_CXX_COMPILER="$compiler" -DARVXML_QT="$qt" \
         -DBUILD_SHARED_LIBS=OFF -DCMAKE_UNITY_BUILD=ON -DARVXML_WARNINGS_AS_ERRORS=ON \
