@@ -134,10 +134,10 @@ private Q_SLOTS:
     void noFloatingPointExceptions()
     {
         std::feclearexcept(FE_ALL_EXCEPT);
-        const XmlDecibelType decibel;
+        const XmlDecibelType first;
         const int raised = std::fetestexcept(FE_ALL_EXCEPT);
         QCOMPARE(raised, 0);
-        QCOMPARE(decibel.decibel(), 0.0);
+        QCOMPARE(first.decibel(), 0.0);
     }
 
 #ifdef __SSE2__
