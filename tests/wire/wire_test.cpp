@@ -3,6 +3,8 @@
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 
+Q_DECLARE_METATYPE(Wire::Case)
+
 /// Runs the cases of the files in this folder; README.md describes them.
 
 namespace {
@@ -93,8 +95,6 @@ private Q_SLOTS:
         QVERIFY2(found.isEmpty() ? mistake.isEmpty() : mistake.startsWith(found), qPrintable(mistake));
     }
 };
-
-Q_DECLARE_METATYPE(Wire::Case)
 
 QTEST_APPLESS_MAIN(WireTest)
 #include "wire_test.moc"
