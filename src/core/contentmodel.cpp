@@ -7,7 +7,6 @@ namespace ArvXml {
 /// A particle has one mark, which each of its children sets. Those of later particles are all the greater ones.
 void ContentModel::addParticle(const Particle& particle, Marks needed, const QString& wrapper)
 {
-    Q_ASSERT(m_nextMark != 0); // 32 marks are enough for every element
     const bool isRepeated = particle.occurrence == Occurrence::Repeated;
     const Marks itselfAndLater = ~(m_nextMark - 1);
     const bool isChoice = particle.alternatives.size() > 1;
@@ -86,11 +85,12 @@ bool ContentModel::mayEnd(const XmlElementBase& owner, Marks read) const
 ContentModel& ContentModel::reportedFirst(std::initializer_list<const char*> tags)
 {
     for (const char* tag : tags) {
-        const auto row = std::find_if(m_rows.begin(), m_rows.end(),
-                                      [tag](const Row& held) { return held.tag == QLatin1String(tag); });
-        Q_ASSERT(row != m_rows.end());
-        row->isReportedFirst = true;
-        m_reportedFirst.push_back(static_cast<std::size_t>(row - m_rows.begin()));
+        for (std::size_t row = 0; row < m_rows.size(); ++row) {
+            if (m_rows[row].tag == QLatin1String(tag)) {
+                m_rows[row].isReportedFirst = true;
+                m_reportedFirst.push_back(row);
+            }
+        }
     }
     return *this;
 }
