@@ -119,13 +119,6 @@ struct Outcome {
     }
 };
 
-inline QString tagOf(const QString& xml)
-{
-    QXmlStreamReader reader(xml);
-    reader.readNextStartElement();
-    return reader.name().toString();
-}
-
 inline Outcome outcomeOf(ArvXml::IXmlElement& element, const QString& error, const QString& tag)
 {
     return {error, problemsIn(element.syntaxError()), element.isValid(), ElementTest::written(element, tag)};
@@ -170,7 +163,7 @@ inline QString check(const Case& wireCase)
     const Samples::ElementClass* const elementClass = classNamed(wireCase.className);
     if (!elementClass)
         return QStringLiteral("no such class: ") + wireCase.className;
-    const QString tag = tagOf(wireCase.xml.last());
+    const QString tag = Samples::tagOf({"", wireCase.xml.last()});
     const Samples::Element element = elementClass->create();
     const Outcome fresh = outcomeOf(*element, {}, tag);
 
